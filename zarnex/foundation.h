@@ -1,0 +1,11 @@
+#pragma once
+
+/// Every public header of the library.
+
+#include <zarnex/config.h>
+#include <zarnex/platform/records.h>
+#include <zarnex/runtime/MiniGuard.h>
+#include <zarnex/runtime/MiniLock.h>
+#include <zarnex/runtime/ZRefCount.h>
+#include <zarnex/runtime/ZarnexException.h>
+#include <zarnex/runtime/exiting.h>

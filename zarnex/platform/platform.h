@@ -1,0 +1,42 @@
+#pragma once
+
+/// What the library asks of the operating system, as plain functions.
+///
+/// posix/ and windows/ each define all of them; nothing else in the library
+/// calls the system. Not installed.
+
+#include <zarnex/platform/records.h>
+
+namespace zarnex::platform {
+
+/// Makes, destroys, takes and releases the recursive lock in `lock`.
+void createLock(PlatformLock& lock);
+void destroyLock(PlatformLock& lock);
+void takeLock(PlatformLock& lock);
+void releaseLock(PlatformLock& lock);
+
+/// Code pages by number, as Windows counts them.
+inline constexpr unsigned int ansiCodePage = 0; ///< the system's own; UTF-8 on Linux
+inline constexpr unsigned int utf8CodePage = 65001;
+
+/// Converts `count` bytes at `text` (up to and with the terminator for -1) to
+/// wide text.
+///
+/// Returns the wide units written, or with `room` 0 the number needed. Returns
+/// 0 on failure: too little room, an unknown code page, a count of 0. Ill-formed
+/// input becomes U+FFFD.
+int bytesToWide(unsigned int codePage, const char* text, int count, wchar_t* out, int room);
+
+/// The mirror image of bytesToWide. A unit that the code page cannot hold
+/// becomes the code page's replacement.
+int wideToBytes(unsigned int codePage, const wchar_t* text, int count, char* out, int room);
+
+/// The number of bytes of the character of the system code page that starts at
+/// `text`; 1 at the terminator and for a sequence cut short by it.
+int characterBytes(const char* text);
+
+/// Reads the system's non-client metrics into `metrics`, whose cbSize is set.
+/// False where the system has none.
+bool readNonClientMetrics(NONCLIENTMETRICSW& metrics);
+
+} // namespace zarnex::platform

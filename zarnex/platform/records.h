@@ -1,0 +1,77 @@
+#pragma once
+
+/// The plain records that the interface takes from the platform.
+///
+/// On Windows they are the system's own and only declared here, so that this
+/// header neither needs the system's headers nor quarrels with them. On Linux
+/// they are defined with the same layout.
+
+#if defined(_WIN32)
+
+struct tagPOINT;
+struct tagNONCLIENTMETRICSW;
+typedef struct tagNONCLIENTMETRICSW NONCLIENTMETRICSW;
+
+#else
+
+#include <cstdint>
+
+/// A pixel position: two signed 32-bit integers.
+struct tagPOINT {
+    std::int32_t x;
+    std::int32_t y;
+};
+
+/// A font as the platform describes it. Text is UTF-16 in 32 units.
+struct tagLOGFONTW {
+    std::int32_t lfHeight;
+    std::int32_t lfWidth;
+    std::int32_t lfEscapement;
+    std::int32_t lfOrientation;
+    std::int32_t lfWeight;
+    unsigned char lfItalic;
+    unsigned char lfUnderline;
+    unsigned char lfStrikeOut;
+    unsigned char lfCharSet;
+    unsigned char lfOutPrecision;
+    unsigned char lfClipPrecision;
+    unsigned char lfQuality;
+    unsigned char lfPitchAndFamily;
+    char16_t lfFaceName[32];
+};
+typedef struct tagLOGFONTW LOGFONTW;
+
+/// Sizes and fonts of the parts of a window outside its client area.
+struct tagNONCLIENTMETRICSW {
+    std::uint32_t cbSize;
+    std::int32_t iBorderWidth;
+    std::int32_t iScrollWidth;
+    std::int32_t iScrollHeight;
+    std::int32_t iCaptionWidth;
+    std::int32_t iCaptionHeight;
+    LOGFONTW lfCaptionFont;
+    std::int32_t iSmCaptionWidth;
+    std::int32_t iSmCaptionHeight;
+    LOGFONTW lfSmCaptionFont;
+    std::int32_t iMenuWidth;
+    std::int32_t iMenuHeight;
+    LOGFONTW lfMenuFont;
+    LOGFONTW lfStatusFont;
+    LOGFONTW lfMessageFont;
+    std::int32_t iPaddedBorderWidth;
+};
+typedef struct tagNONCLIENTMETRICSW NONCLIENTMETRICSW;
+
+static_assert(sizeof(NONCLIENTMETRICSW) == 504, "the layout of the platform's record");
+
+#endif
+
+namespace zarnex {
+
+/// Room for the platform's recursive lock: a critical section on Windows, a
+/// recursive mutex on Linux. The platform sources assert that it fits.
+struct PlatformLock {
+    alignas(8) unsigned char bytes[40];
+};
+
+} // namespace zarnex

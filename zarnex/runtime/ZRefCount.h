@@ -1,0 +1,44 @@
+#pragma once
+
+#include <zarnex/config.h>
+
+/// Counts the references to a shared object.
+///
+/// The count is not atomic: every change stands between lockRefCount() and
+/// unlockRefCount().
+///
+///     lockRefCount();
+///     const unsigned int left = count->decrement();
+///     unlockRefCount();
+///     if (left == 0) {
+///         delete static_cast<Shared*>(count->pointer());
+///         delete count;
+///     }
+class ZARNEX_API ZRefCount {
+public:
+    /// One reference to `shared`, which is not owned.
+    explicit ZRefCount(void* shared);
+
+    /// Frees nothing.
+    ~ZRefCount();
+
+    ZRefCount& operator++();
+
+    /// Counts one down and returns the new count. Below 0 it wraps to 4294967295.
+    unsigned int decrement();
+
+    unsigned int value();
+
+    void* pointer();
+    void* pointer() const;
+
+private:
+    void* pointer_;
+    unsigned int count_;
+};
+
+/// Takes the one process-wide lock that guards all reference counts.
+ZARNEX_API void lockRefCount();
+
+/// Releases what lockRefCount() took.
+ZARNEX_API void unlockRefCount();

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <zarnex/config.h>
+
+/// 1 once setExiting() has been called, 0 before.
+///
+/// For the cleanup code of hosts (destructors of long-lived objects, exit
+/// handlers): 1 tells that the process is going down after a fatal condition.
+/// The library sets the flag and never reads it. Safe on any thread.
+ZARNEX_API int isExiting();
+
+/// Sets the flag that isExiting() returns. Nothing clears it again.
+ZARNEX_API void setExiting();
+
+namespace zarnex {
+
+/// The library's way out of a condition that it cannot continue from: writes
+/// `message` (may be null) to the standard error stream, calls setExiting() and
+/// ends the process through exit() with `status`.
+[[noreturn]] ZARNEX_API void exitFatally(const char* message, int status);
+
+} // namespace zarnex
