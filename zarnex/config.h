@@ -15,3 +15,13 @@
 #else
 #define ZARNEX_API __attribute__((visibility("default")))
 #endif
+
+/// Marks a short member function or free function that hosts inline and that
+/// the library exports all the same: its definition stands below its class in
+/// the header. Without the attribute an ELF library would hold a copy only where
+/// the library itself happens to call one.
+#if defined(ZARNEX_BUILDING_FOUNDATION) && !defined(_WIN32)
+#define ZARNEX_INLINE __attribute__((used)) inline
+#else
+#define ZARNEX_INLINE inline
+#endif
