@@ -44,12 +44,18 @@ TEST(ZarnexException, CodesAreSigned32BitOnEveryPlatform) {
 class Overriding : public ZarnexException {
 public:
     Overriding() : ZarnexException("own", 1, nullptr) {}
-    const char* what() const noexcept override { return "overridden"; }
+    const char* what() const noexcept override {
+        return "overridden";
+    }
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wignored-qualifiers"
-    const long errCode() const override { return 42; }
+    const long errCode() const override {
+        return 42;
+    }
 #pragma GCC diagnostic pop
-    void* sourceObject() const override { return &source; }
+    void* sourceObject() const override {
+        return &source;
+    }
 };
 
 TEST(ZarnexException, CopiesGoThroughTheVirtualAccessors) {

@@ -18,7 +18,9 @@ public:
               const MiniGuard guard(lock);
               passed_ = true;
           }) {}
-    ~Contender() { thread_.join(); }
+    ~Contender() {
+        thread_.join();
+    }
 
     bool passes(std::chrono::milliseconds patience) {
         const auto end = std::chrono::steady_clock::now() + patience;

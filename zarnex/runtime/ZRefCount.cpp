@@ -1,7 +1,7 @@
 #include <zarnex/runtime/ZRefCount.h>
 
-#include <zarnex/runtime/internal/locks.h>
 #include <zarnex/runtime/MiniLock.h>
+#include <zarnex/runtime/internal/locks.h>
 
 ZRefCount::ZRefCount(void* shared) : pointer_(shared), count_(1) {}
 

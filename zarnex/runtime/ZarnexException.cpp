@@ -16,8 +16,8 @@ ZarnexException::ZarnexException(long code, void* source)
     : source_(source), message_(noMessage), code_(static_cast<std::int32_t>(code)) {}
 
 ZarnexException::ZarnexException(const char* message, long code, void* source)
-    : source_(source), message_(messageOrDefault(message)),
-      code_(static_cast<std::int32_t>(code)) {}
+    : source_(source), message_(messageOrDefault(message)), code_(static_cast<std::int32_t>(code)) {
+}
 
 ZarnexException::ZarnexException(const char* message, void* source)
     : ZarnexException(message, -1, source) {}

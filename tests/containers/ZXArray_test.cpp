@@ -1,0 +1,339 @@
+#include <zarnex/containers/ZXArray.h>
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cmath>
+#include <cstring>
+#include <functional>
+#include <random>
+#include <type_traits>
+#include <vector>
+
+namespace {
+
+using Ints = ZXArray<int>;
+
+std::vector<int> contents(const Ints& array) {
+    const int* first = array;
+    return std::vector<int>(first, first + array.length());
+}
+
+Ints arrayOf(std::vector<int> values) {
+    return Ints(values.data(), static_cast<int>(values.size()));
+}
+
+TEST(ZXArray, AllocationFollowsTheGrowthRule) {
+    const struct {
+        const char* what;
+        int step;
+        std::function<void(Ints&)> grow;
+        int length, alloc;
+    } rows[] = {
+        {"nothing", -1, [](Ints&) {}, 0, 0},
+        {"the first add takes 32", -1, [](Ints& a) { a.add(1); }, 1, 32},
+        {"then doubles", -1,
+         [](Ints& a) {
+             for (int i = 0; i < 33; ++i)
+                 a.add(i);
+         },
+         33, 64},
+        {"a far write doubles until it fits", -1, [](Ints& a) { a[200] = 1; }, 201, 256},
+        {"steps round up", 10, [](Ints& a) { a[25] = 1; }, 26, 30},
+        {"a full array grows a step", 10,
+         [](Ints& a) {
+             a.setSize(10);
+             a.add(1);
+         },
+         11, 20},
+        {"setSize grows by the rule", -1, [](Ints& a) { a.setSize(40); }, 40, 64},
+        {"setSize keeps the allocation", 10,
+         [](Ints& a) {
+             a[99] = 1;
+             a.setSize(3);
+         },
+         3, 100},
+        {"also when growing inside it", 10,
+         [](Ints& a) {
+             a[99] = 1;
+             a.setSize(3);
+             a.setSize(4);
+         },
+         4, 100},
+        {"resize halves", -1,
+         [](Ints& a) {
+             a[255] = 1;
+             a.resize(33);
+         },
+         33, 64},
+        {"resize rounds down to steps", 10,
+         [](Ints& a) {
+             a[99] = 1;
+             a.resize(33);
+         },
+         33, 40},
+        {"resize to nothing frees", 10,
+         [](Ints& a) {
+             a[99] = 1;
+             a.resize(-3);
+         },
+         0, 0},
+        {"setAllocSize is exact", 10,
+         [](Ints& a) {
+             a.add(1);
+             a.setAllocSize(7);
+         },
+         1, 7},
+        {"setAllocSize cuts", 10,
+         [](Ints& a) {
+             a[8] = 1;
+             a.setAllocSize(7);
+         },
+         7, 7},
+        {"compact is exact", -1,
+         [](Ints& a) {
+             a[8] = 1;
+             a.compact();
+         },
+         9, 9},
+        {"compact of nothing frees", -1,
+         [](Ints& a) {
+             a.add(1);
+             a.del(0);
+             a.compact();
+         },
+         0, 0},
+        {"ins past the end extends", 10, [](Ints& a) { a.ins(11, 1); }, 12, 20},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        Ints array;
+        EXPECT_EQ(array.setStep(row.step), row.step);
+        row.grow(array);
+        EXPECT_EQ(array.length(), row.length);
+        EXPECT_EQ(array.allocLength(), row.alloc);
+        EXPECT_EQ(array.allocBytes(), row.alloc * 4);
+    }
+}
+
+TEST(ZXArray, ConstructorsAllocateAsStated) {
+    const Ints sized(5, 10);
+    EXPECT_EQ(sized.length(), 5);
+    EXPECT_EQ(sized.allocLength(), 5);
+    EXPECT_EQ(sized.getStep(), 10);
+    const Ints copied = arrayOf({1, 2, 3});
+    EXPECT_EQ(contents(copied), (std::vector{1, 2, 3}));
+    EXPECT_EQ(copied.allocLength(), 32);
+    EXPECT_EQ(copied.getStep(), -1);
+    for (const Ints& none :
+         {Ints(), Ints(-1, 3), Ints(nullptr, 3), Ints(&*std::vector{1}.begin(), -2)}) {
+        EXPECT_EQ(none.length(), 0);
+        EXPECT_EQ(none.allocLength(), 0);
+    }
+}
+
+TEST(ZXArray, ReadsAreBoundedByTheAllocation) {
+    Ints array(8, 4);
+    for (int i = 0; i < 8; ++i)
+        array[i] = i;
+    array.setSize(6); // clears slots 6 and 7
+    const Ints& reader = array;
+    int* slots = array;
+    slots[7] = 77;
+    EXPECT_EQ(reader[7], 77) << "a spare slot";
+    EXPECT_EQ(reader[8], 0) << "past the allocation";
+    EXPECT_EQ(reader[-5], 0);
+    EXPECT_EQ(reader(3), 3);
+    EXPECT_EQ(reader.get(1000000), 0);
+    EXPECT_EQ(array.length(), 6) << "reading extends nothing";
+}
+
+TEST(ZXArray, TakesEveryIntegerTypeAsIndex) {
+    Ints array = arrayOf({10, 11, 12});
+    const Ints& reader = array;
+    array[-5] = 9; // a negative index counts as 0
+    EXPECT_EQ(array[0u], 9);
+    EXPECT_EQ(array[1L], 11);
+    EXPECT_EQ(reader[std::size_t{2}], 12);
+    EXPECT_EQ(reader[-7LL], 9);
+    EXPECT_EQ(reader[ULLONG_MAX], 0);
+    EXPECT_EQ(reader[short{2}], 12);
+}
+
+TEST(ZXArray, VacatedSlotsHoldTheEmptyValue) {
+    Ints array = arrayOf({1, 2, 3});
+    array.setEmpty(7);
+    const Ints& reader = array;
+    EXPECT_EQ(reader[3], 7);
+    EXPECT_EQ(reader[31], 7);
+    EXPECT_EQ(array.isEmptySet(), 1);
+    array.del(2);
+    EXPECT_EQ(reader[2], 7);
+    array[40] = 1; // grows to 64
+    EXPECT_EQ(reader[39], 7);
+    EXPECT_EQ(reader[63], 7);
+    EXPECT_EQ(reader[64], 7);
+    array.clear();
+    EXPECT_EQ(contents(array), std::vector<int>(41, 7));
+    EXPECT_EQ(array.add(), 7);
+}
+
+TEST(ZXArray, ResizeClearsVacatedSlotsOnlyWhereTheAllocationStaysAboveTheLength) {
+    const struct {
+        int size, alloc, slot, value;
+    } rows[] = {
+        {22, 30, 23, 0},  // 30 slots, more than the 25 used: cleared
+        {12, 20, 15, 15}, // 20 slots: what the cut leaves keeps its old value
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.size);
+        Ints array;
+        array.setStep(10);
+        for (int i = 0; i < 25; ++i)
+            array.add(i);
+        array.resize(row.size);
+        const Ints& reader = array;
+        EXPECT_EQ(reader.allocLength(), row.alloc);
+        EXPECT_EQ(reader[row.slot], row.value);
+    }
+}
+
+TEST(ZXArray, ElementsOfTheArrayItselfSurviveItsGrowth) {
+    ZXArray<ZXArray<std::pair<int, double>>> nested;
+    nested.add()[2].second = 2.5;
+    for (int i = 0; i < 40; ++i)
+        nested.add(nested[0]);
+    nested.setAllocSize(nested.length());
+    nested.ins(1, nested[40]);
+    nested.set(nested.allocLength(), nested[1]);
+    nested.setAll(nested[3]);
+    for (int i = 0; i < nested.length(); ++i)
+        ASSERT_EQ(nested[i][2].second, 2.5) << i;
+}
+
+TEST(ZXArray, CopiesTakeSpareSlotsAndBookkeeping) {
+    Ints source(8, 4);
+    source.setAll(3);
+    source.setEmpty(9);
+    source.setSize(2);
+    for (int i = 0; i < 2; ++i) {
+        Ints copy = i == 0 ? Ints(source) : Ints(100, 1);
+        copy = source;
+        const Ints& reader = copy;
+        EXPECT_EQ(reader.length(), 2);
+        EXPECT_EQ(reader.allocLength(), 8);
+        EXPECT_EQ(reader.getStep(), 4);
+        EXPECT_EQ(reader[5], 9);
+        EXPECT_EQ(reader[100], 9);
+        EXPECT_NE(static_cast<const int*>(reader), static_cast<const int*>(source));
+        copy = Ints();
+        EXPECT_EQ(copy.allocLength(), 0);
+    }
+    const Ints& same = source;
+    source = same;
+    EXPECT_EQ(source.length(), 2);
+}
+
+TEST(ZXArray, EqualityComparesUsedElements) {
+    const Ints one = arrayOf({1, 2});
+    Ints other(2, 1);
+    other[0] = 1;
+    other[1] = 2;
+    EXPECT_TRUE(one == other);
+    EXPECT_FALSE(one != other);
+    other[1] = 3;
+    EXPECT_TRUE(one != other);
+    EXPECT_FALSE(one == arrayOf({1, 2, 3}));
+    const double nan = std::nan("");
+    const ZXArray<double> undefined(&nan, 1);
+    EXPECT_TRUE(undefined == undefined) << "the same object";
+    EXPECT_FALSE(undefined == ZXArray<double>(undefined));
+    EXPECT_EQ(undefined.find(nan, 0), -1);
+}
+
+TEST(ZXArray, FindsFromEitherEnd) {
+    const Ints array = arrayOf({1, 2, 1});
+    EXPECT_EQ(array.find(1, 0), 0);
+    EXPECT_EQ(array.find(1, 1), 2);
+    EXPECT_EQ(array.find(3, 0), -1);
+}
+
+TEST(ZXArray, EditsLikeAPlainVector) {
+    std::mt19937 random(20260101);
+    const auto pick = [&random](int below) { return static_cast<int>(random() % unsigned(below)); };
+    for (int step : {-1, 1, 7}) {
+        Ints array;
+        array.setEmpty(0);
+        array.setStep(step);
+        std::vector<int> model;
+        const auto extend = [&model](int i) {
+            if (i >= static_cast<int>(model.size()))
+                model.resize(static_cast<std::size_t>(i) + 1);
+            return static_cast<std::size_t>(i);
+        };
+        for (int turn = 0; turn < 4000; ++turn) {
+            const int i = pick(static_cast<int>(model.size()) + 4);
+            const bool inside = i < static_cast<int>(model.size());
+            switch (pick(6)) {
+            case 0:
+                array.add(turn);
+                model.push_back(turn);
+                break;
+            case 1:
+                array.insert(turn, i);
+                if (inside)
+                    model.insert(model.begin() + i, turn);
+                else
+                    model[extend(i)] = turn;
+                break;
+            case 2:
+            case 3:
+                array.remove(i);
+                if (inside)
+                    model.erase(model.begin() + i);
+                break;
+            case 4:
+                array(i) = turn;
+                model[extend(i)] = turn;
+                break;
+            case 5:
+                array.setSize(i);
+                model.resize(static_cast<std::size_t>(i));
+                break;
+            }
+            ASSERT_EQ(contents(array), model) << "step " << step << ", turn " << turn;
+            ASSERT_LE(array.length(), array.allocLength());
+        }
+    }
+}
+
+TEST(ZXArray, KeepsItsDataLayout) {
+    struct Layout {
+        void* table;
+        double* data;
+        double empty;
+        int allocLength, length, step, emptySet;
+    };
+    static_assert(sizeof(ZXArray<double>) == sizeof(Layout));
+    ZXArray<double> array(3, 5);
+    array.setEmpty(1.5);
+    Layout layout;
+    std::memcpy(&layout, static_cast<void*>(&array), sizeof layout);
+    EXPECT_EQ(layout.data, static_cast<double*>(array));
+    EXPECT_EQ(layout.empty, 1.5);
+    EXPECT_EQ(layout.allocLength, 3);
+    EXPECT_EQ(layout.length, 3);
+    EXPECT_EQ(layout.step, 5);
+    EXPECT_EQ(layout.emptySet, 1);
+}
+
+TEST(ZXArrayDeathTest, ASlotThatCannotBeHadEndsTheProcess) {
+    EXPECT_EXIT(
+        {
+            ZXArray<double> array;
+            array[INT_MAX] = 1.0;
+        },
+        testing::ExitedWithCode(1), "failed alloc");
+}
+
+} // namespace
