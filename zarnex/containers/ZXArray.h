@@ -127,6 +127,10 @@ public:
     /// keeps hold what they held, although setSize() clears them all.
     void resize(int n);
 
+    /// Grows the allocation by the growth rule to at least `n` slots; the length
+    /// stays. Without memory the process ends.
+    void reserve(long long n);
+
     /// Sets the allocation to exactly `n` slots, cutting the length to fit.
     void setAllocSize(int n);
 
@@ -167,7 +171,6 @@ private:
     }
 
     void extendTo(int i);
-    void needSlots(long long n);
 
     T* data_;
     T empty_;
@@ -333,8 +336,7 @@ T& ZXArray<T>::ins(int i, const T& value) {
         return data_[i];
     }
     T copy(value); // `value` may be one of the elements that move
-    if (length_ == allocLength_)
-        needSlots(length_ + 1LL);
+    reserve(length_ + 1LL);
     std::move_backward(data_ + i, data_ + length_, data_ + length_ + 1);
     ++length_;
     return data_[i] = std::move(copy);
@@ -424,6 +426,15 @@ void ZXArray<T>::resize(int n) {
     length_ = n;
     growArray(slots, 0);
     length_ = (std::min)(length_, allocLength_);
+}
+
+template <class T>
+void ZXArray<T>::reserve(long long n) {
+    if (n <= allocLength_)
+        return;
+    growArray(static_cast<int>((std::min)(n, 0LL + (std::numeric_limits<int>::max)())), 1);
+    if (n > allocLength_)
+        zarnex::exitFatally("failed alloc\n", 1);
 }
 
 template <class T>
@@ -526,17 +537,8 @@ void ZXArray<T>::growArray(int n, int useRule) {
 // The slow half of get(): makes slot `i`, at or past the length, the last one.
 template <class T>
 void ZXArray<T>::extendTo(int i) {
-    if (i >= allocLength_)
-        needSlots(i + 1LL);
+    reserve(i + 1LL);
     length_ = i + 1;
-}
-
-// Grows to `n` slots; a caller that must return one of them cannot go on without.
-template <class T>
-void ZXArray<T>::needSlots(long long n) {
-    growArray(static_cast<int>((std::min)(n, 0LL + (std::numeric_limits<int>::max)())), 1);
-    if (n > allocLength_)
-        zarnex::exitFatally("failed alloc\n", 1);
 }
 
 extern template class ZARNEX_API ZXArray<char>;

@@ -35,8 +35,8 @@ int wideToBytes(unsigned int codePage, const wchar_t* text, int count, char* out
 /// `text`; 1 at the terminator and for a sequence cut short by it.
 int characterBytes(const char* text);
 
-/// Reads the system's non-client metrics into `metrics`, whose cbSize is set.
-/// False where the system has none.
+/// Sets metrics.cbSize to 504 and reads the system's non-client metrics into the
+/// rest. False where the system has none.
 bool readNonClientMetrics(NONCLIENTMETRICSW& metrics);
 
 } // namespace zarnex::platform

@@ -1,6 +1,7 @@
 #include <zarnex/platform/platform.h>
 #include <zarnex/platform/posix/utf8.h>
 
+#include <climits>
 #include <cstring>
 #include <cwchar>
 
@@ -22,12 +23,11 @@ int bytesToWide(unsigned int codePage, const char* text, int count, wchar_t* out
     const unsigned char* const end = next + length;
     int written = 0;
     while (next != end) {
+        if (written == (room > 0 ? room : INT_MAX))
+            return 0;
         const char32_t character = decodeUtf8(next, end);
-        if (room > 0) {
-            if (written == room)
-                return 0;
+        if (room > 0)
             out[written] = static_cast<wchar_t>(character);
-        }
         ++written;
     }
     return written;
@@ -41,9 +41,9 @@ int wideToBytes(unsigned int codePage, const wchar_t* text, int count, char* out
     for (std::size_t i = 0; i < length; ++i) {
         char bytes[4];
         const int size = encodeUtf8(static_cast<char32_t>(text[i]), bytes);
+        if (size > (room > 0 ? room : INT_MAX) - written)
+            return 0;
         if (room > 0) {
-            if (size > room - written)
-                return 0;
             std::memcpy(out + written, bytes, static_cast<std::size_t>(size));
         }
         written += size;

@@ -2,7 +2,8 @@
 
 namespace zarnex::platform {
 
-bool readNonClientMetrics(NONCLIENTMETRICSW&) {
+bool readNonClientMetrics(NONCLIENTMETRICSW& metrics) {
+    metrics.cbSize = sizeof metrics;
     return false;
 }
 

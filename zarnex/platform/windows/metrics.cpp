@@ -7,6 +7,7 @@ namespace zarnex::platform {
 static_assert(sizeof(NONCLIENTMETRICSW) == 504);
 
 bool readNonClientMetrics(NONCLIENTMETRICSW& metrics) {
+    metrics.cbSize = sizeof metrics;
     return SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, metrics.cbSize, &metrics, 0) != 0;
 }
 

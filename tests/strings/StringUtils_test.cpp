@@ -1,0 +1,251 @@
+#if defined(_WIN32)
+#include <windows.h>
+#endif
+
+#include <zarnex/platform/records.h>
+#include <zarnex/strings/FontUtils.h>
+#include <zarnex/strings/StringUtils.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstring>
+#include <string>
+
+namespace {
+
+using zarnex::errorSize;
+
+// U+00E9 in the system code page: 1252 under Wine, UTF-8 on Linux.
+#if defined(_WIN32)
+constexpr char eAcute[] = "\xE9";
+#else
+constexpr char eAcute[] = "\xC3\xA9";
+#endif
+constexpr std::size_t eAcuteSize = sizeof eAcute;
+
+TEST(StringUtils, SizesCountTheTerminatorAndNullIsAnError) {
+    EXPECT_EQ(StringUtils::bufferSize(""), 1u);
+    EXPECT_EQ(StringUtils::bufferSize(L"abc"), 4u);
+    EXPECT_EQ(StringUtils::multiByteSize("abc"), 4u);
+    EXPECT_EQ(StringUtils::multiByteSize(L""), 1u);
+    EXPECT_EQ(StringUtils::multiByteSize(L"\u00E9"), eAcuteSize);
+    EXPECT_EQ(StringUtils::unicodeSize(eAcute), 2u);
+    EXPECT_EQ(StringUtils::unicodeSize(L"abc"), 4u);
+    EXPECT_EQ(StringUtils::stringLength(eAcute), 1u);
+    EXPECT_EQ(StringUtils::stringLength(""), 0u);
+    EXPECT_EQ(StringUtils::stringLength(L"abc"), 3u);
+    constexpr const char* noBytes = nullptr;
+    constexpr const wchar_t* noUnits = nullptr;
+    for (std::size_t size :
+         {StringUtils::bufferSize(noBytes), StringUtils::bufferSize(noUnits),
+          StringUtils::multiByteSize(noBytes), StringUtils::multiByteSize(noUnits),
+          StringUtils::unicodeSize(noBytes), StringUtils::unicodeSize(noUnits),
+          StringUtils::stringLength(noBytes), StringUtils::stringLength(noUnits)})
+        EXPECT_EQ(size, errorSize);
+}
+
+// A destination of 8 units, filled with marks beyond which nothing may be written.
+template <class Char>
+struct Room {
+    Char units[9];
+    Room() {
+        std::fill(std::begin(units), std::end(units), Char{'#'});
+    }
+    std::basic_string<Char> text() const {
+        return units;
+    }
+    bool isUntouchedFrom(std::size_t i) const {
+        return std::all_of(units + i, std::end(units), [](Char c) { return c == Char{'#'}; });
+    }
+};
+
+template <class Out, class Char>
+void checkCopy(const Char* text, std::size_t room, std::size_t result,
+               const std::basic_string<Out>& left) {
+    SCOPED_TRACE(testing::Message() << "room " << room << ", result " << result);
+    Room<Out> out;
+    EXPECT_EQ(StringUtils::copyString(out.units, text, room), result);
+    EXPECT_TRUE(out.isUntouchedFrom(room));
+    if (room > 0) {
+        EXPECT_EQ(out.text(), left);
+        EXPECT_EQ(out.units[room - 1], Out{});
+    }
+}
+
+TEST(StringUtils, CopiesAreCutAndTerminated) {
+    checkCopy<char>("abcdef", 4, 7, "abc");
+    checkCopy<char>("abc", 8, 4, "abc");
+    checkCopy<char>("abc", 1, 4, "");
+    checkCopy<char>("abc", 0, 4, "");
+    checkCopy<wchar_t>(L"abcdef", 4, 7, L"abc");
+    checkCopy<wchar_t>(L"abc", 0, 4, L"");
+    constexpr char* nowhere = nullptr;
+    EXPECT_EQ(StringUtils::copyString(nowhere, "abc", 5), 4u);
+    EXPECT_EQ(StringUtils::copyString(nowhere, L"\u00E9", 5), 2u) << "in units of the source";
+    constexpr const char* nothing = nullptr;
+    EXPECT_EQ(StringUtils::copyString(nowhere, nothing, 0), errorSize);
+}
+
+TEST(StringUtils, ConversionsReportWhatTheyWroteOrThatItDidNotFit) {
+    checkCopy<char>(L"abc", 8, 4, "abc");
+    checkCopy<char>(L"abcdef", 4, errorSize, "abc");
+    checkCopy<char>(L"\u00E9", 8, eAcuteSize, eAcute);
+    checkCopy<wchar_t>("abc", 4, 4, L"abc");
+    checkCopy<wchar_t>("abcdef", 4, errorSize, L"abc");
+    checkCopy<wchar_t>(eAcute, 8, 2, L"\u00E9");
+}
+
+#if !defined(_WIN32)
+TEST(StringUtils, IllFormedUtf8BecomesReplacementCharacters) {
+    const struct {
+        const char* bytes;
+        std::wstring text;
+    } rows[] = {
+        {"a\xFFz", L"a\uFFFDz"},                           // no lead byte
+        {"\xC0\xAF", L"\uFFFD\uFFFD"},                     // overlong
+        {"\xE2\x82z", L"\uFFFDz"},                         // cut short: one for the part
+        {"\xED\xA0\x80", L"\uFFFD\uFFFD\uFFFD"},           // a surrogate
+        {"\xF0\x9F\x98\x80", L"\U0001F600"},               // well-formed, 4 bytes
+        {"\xF4\x90\x80\x80", L"\uFFFD\uFFFD\uFFFD\uFFFD"}, // beyond U+10FFFF
+        {"\xE2\x82", L"\uFFFD"},                           // cut short by the terminator
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.bytes);
+        wchar_t out[16];
+        StringUtils::copyString(out, row.bytes, 16);
+        EXPECT_EQ(out, row.text);
+    }
+    const wchar_t lone[] = {L'a', wchar_t{0xD800}, wchar_t{0x110000}, L'\0'};
+    char bytes[16];
+    StringUtils::copyString(bytes, lone, 16);
+    EXPECT_STREQ(bytes, "a\xEF\xBF\xBD\xEF\xBF\xBD");
+    EXPECT_EQ(StringUtils::copyString(bytes, L"a\u20ACb", 4), errorSize);
+    EXPECT_STREQ(bytes, "a") << "no part of a character";
+}
+#endif
+
+TEST(StringUtils, AppendsWithinTheRoomAndReturnsWhatIsNeeded) {
+    const struct {
+        std::size_t room;
+        std::size_t result;
+        const char* left;
+    } rows[] = {
+        {4, 5, "abc"}, {5, 5, "abcd"}, {8, 5, "abcd"}, {0, 5, "ab"}, {2, 5, "ab"}, {1, 5, "ab"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.room);
+        const std::wstring wideLeft(row.left, row.left + std::strlen(row.left));
+        char bytes[9] = "ab";
+        EXPECT_EQ(StringUtils::appendString(bytes, "cd", row.room), row.result);
+        EXPECT_STREQ(bytes, row.left);
+        char converted[9] = "ab";
+        EXPECT_EQ(StringUtils::appendString(converted, L"cd", row.room), row.result);
+        EXPECT_STREQ(converted, row.left);
+        wchar_t units[9] = L"ab";
+        EXPECT_EQ(StringUtils::appendString(units, L"cd", row.room), row.result);
+        EXPECT_EQ(units, wideLeft);
+        wchar_t widened[9] = L"ab";
+        EXPECT_EQ(StringUtils::appendString(widened, "cd", row.room), row.result);
+        EXPECT_EQ(widened, wideLeft);
+    }
+    char same[9] = "ab";
+    EXPECT_EQ(StringUtils::appendString(same, same, 9), 5u);
+    EXPECT_STREQ(same, "abab");
+    EXPECT_EQ(StringUtils::appendString(same, static_cast<const char*>(nullptr), 9), errorSize);
+}
+
+TEST(StringUtils, PathsSplitAtTheLastColonSeparatorAndDot) {
+    const struct {
+        const char *path, *drive, *dir, *name, *ext;
+    } rows[] = {
+        {"C:\\dir.x\\file.tar.gz", "C:", "\\dir.x\\", "file.tar", ".gz"},
+        {"file.", "", "", "file", "."},
+        {"a/b", "", "a/", "b", ""},
+        {".profile", "", "", "", ".profile"},
+        {"dir/..", "", "dir/", ".", "."},
+        {"a:b:c/d:e/f.g", "a:b:c/d:", "e/", "f", ".g"},
+        {"a.b:c", "a.b:", "", "c", ""},
+        {"a.b/c", "", "a.b/", "c", ""},
+        {"", "", "", "", ""},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.path);
+        char drive[20], dir[20], name[20], ext[20];
+        StringUtils::splitPath(row.path, drive, 20, dir, 20, name, 20, ext, 20);
+        EXPECT_STREQ(drive, row.drive);
+        EXPECT_STREQ(dir, row.dir);
+        EXPECT_STREQ(name, row.name);
+        EXPECT_STREQ(ext, row.ext);
+        char again[40];
+        StringUtils::makePath(again, 40, drive, dir, name, ext);
+        EXPECT_STREQ(again, row.path);
+        const std::wstring widePath(row.path, row.path + std::strlen(row.path));
+        wchar_t wideName[3];
+        StringUtils::splitPath(widePath.c_str(), nullptr, 0, nullptr, 0, wideName, 3, nullptr, 0);
+        EXPECT_EQ(std::string(wideName, wideName + std::wcslen(wideName)),
+                  std::string(row.name).substr(0, 2));
+    }
+    std::string endless(300, 'x');
+    endless[258] = '.';
+    endless[259] = '/'; // past the 259 units that count
+    char name[300], ext[300];
+    StringUtils::splitPath(endless.c_str(), nullptr, 0, nullptr, 0, name, 300, ext, 300);
+    EXPECT_EQ(std::strlen(name), 258u);
+    EXPECT_STREQ(ext, ".");
+}
+
+TEST(StringUtils, PathsAreBuiltWithTheMarksThatPartsLack) {
+    const struct {
+        const char *drive, *dir, *name, *ext, *path;
+    } rows[] = {
+        {"C", "dir", "f", "txt", "C:dir\\f.txt"}, {"C:", "dir/", "f", ".txt", "C:dir/f.txt"},
+        {nullptr, nullptr, "f", nullptr, "f"},    {"", "", "", "txt", ".txt"},
+        {nullptr, nullptr, nullptr, nullptr, ""},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.path);
+        char path[40] = "old";
+        StringUtils::makePath(path, 40, row.drive, row.dir, row.name, row.ext);
+        EXPECT_STREQ(path, row.path);
+        char tight[5] = "####";
+        StringUtils::makePath(tight, 4, row.drive, row.dir, row.name, row.ext);
+        EXPECT_EQ(tight, std::string(row.path).substr(0, 3));
+    }
+}
+
+TEST(StringUtils, FixnameReplacesTheExtension) {
+    const struct {
+        const wchar_t *path, *ext, *fixed;
+    } rows[] = {
+        {L"C:\\a\\b.old", L"new", L"C:\\a\\b.new"},
+        {L"b.x.old", L".new", L"b.x.new"},
+        {L"a/b.old", nullptr, L"a/b"},
+        {L"a/b.old", L"", L"a/b"},
+        {L"b", L"new", L"b.new"},
+    };
+    for (const auto& row : rows) {
+        wchar_t path[20];
+        StringUtils::copyString(path, row.path, 20);
+        StringUtils::fixname(path, 20, row.ext);
+        EXPECT_EQ(std::wstring(path), row.fixed);
+    }
+    char narrow[20] = "a/b.old";
+    StringUtils::fixname(narrow, 20, "c");
+    EXPECT_STREQ(narrow, "a/b.c");
+}
+
+TEST(FontUtils, ReportsTheSystemsMetricsOrTheFailureStatus) {
+    NONCLIENTMETRICSW metrics;
+    std::memset(&metrics, 0, sizeof metrics);
+    const long status = FontUtils::getSystemFont(metrics);
+    EXPECT_EQ(metrics.cbSize, 504u);
+#if defined(_WIN32)
+    EXPECT_EQ(status, 0);
+    EXPECT_GT(metrics.iCaptionHeight, 0);
+#else
+    EXPECT_EQ(status, -2147467259);
+#endif
+}
+
+} // namespace

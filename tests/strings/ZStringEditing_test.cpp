@@ -1,0 +1,240 @@
+#include "tests/support.h"
+
+#include <zarnex/strings/ZString.h>
+
+#include <climits>
+#include <random>
+
+namespace {
+
+constexpr const wchar_t* null = nullptr;
+
+TEST(ZString, FindsSlotsInUseFromEitherEnd) {
+    ZString string(L"abca");
+    EXPECT_EQ(string.find(L'a'), 0);
+    EXPECT_EQ(string.find(L'a', 1), 3);
+    EXPECT_EQ(string.find(L'\0'), 4);
+    EXPECT_EQ(string.find(L'x'), -1);
+    string.truncate(1);
+    EXPECT_EQ(string.find(L'b'), -1) << "no longer a slot in use";
+}
+
+TEST(ZString, FindsText) {
+    const ZString string(L"abcABC");
+    const struct {
+        const wchar_t* wanted;
+        int start, ignoreCase, found;
+    } rows[] = {
+        {L"b", 0, 0, 1},   {L"B", 0, 0, 4},        {L"B", 0, 1, 1},       {L"bC", 2, 1, 4},
+        {L"b", -1, 0, -1}, {L"B", -2, 0, 4},       {L"b", -6, 0, 1},      {L"b", -12, 0, 1},
+        {L"C", 6, 0, -1},  {L"C", 7, 0, -1},       {L"C", INT_MIN, 0, 5}, {L"", 3, 0, 6},
+        {null, 3, 0, 6},   {L"abcABCd", 0, 0, -1}, {L"abcabc", 0, 1, 0},  {L"C", 5, 0, 5},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::Message() << ZString(row.wanted) << " from " << row.start);
+        EXPECT_EQ(string.findString(row.wanted, row.start, row.ignoreCase), row.found);
+    }
+    EXPECT_EQ(ZString().findString(L"a", -3, 0), -1);
+    EXPECT_EQ(ZString().findString(L"", -3, 0), 0);
+}
+
+TEST(ZString, FindsOneOfASet) {
+    const struct {
+        const wchar_t *text, *set;
+        int start, invert, found, byUnicode;
+    } rows[] = {
+        {L"abc", L"", 1, 0, 3, 3},      {L"abc", L"", 1, 1, 1, 1},    {L"abc", L"ab", 0, 1, 2, -1},
+        {L"abc", L"cb", 0, 0, 1, 1},    {L"abc", L"cb", -1, 0, 2, 2}, {L"abc", L"a", 1, 0, -1, -1},
+        {L"abc", L"a", 3, 0, -1, -1},   {L"abc", L"a", 4, 0, -1, -1}, {L"abc", null, 0, 0, -1, -1},
+        {L"abc", L"abc", 0, 1, -1, -1}, {L"", L"a", -1, 0, -1, -1},   {L"", L"", -1, 1, -1, -1},
+        {L"", L"", 0, 0, 0, 0},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::Message() << ZString(row.set) << " from " << row.start);
+        const ZString string(row.text);
+        EXPECT_EQ(string.findOneOf(row.set, row.start, row.invert), row.found);
+        EXPECT_EQ(string.findOneOfByUnicode(row.set, row.start, row.invert), row.byUnicode);
+    }
+    EXPECT_EQ(ZString(L"abc").findOneOf(L"a", LLONG_MAX, 0), -1);
+}
+
+TEST(ZString, TellsWhatItStartsWith) {
+    const ZString string(L"abc");
+    EXPECT_TRUE(string.startsWith(L"ab"));
+    EXPECT_TRUE(string.startsWith(L""));
+    EXPECT_FALSE(string.startsWith(L"aB"));
+    EXPECT_TRUE(string.startsWith(L"aB", 1));
+    EXPECT_FALSE(string.startsWith(L"abcd", 1));
+    EXPECT_FALSE(string.startsWith(L"abcd"));
+    EXPECT_FALSE(string.startsWith(null));
+}
+
+TEST(ZString, ReplacesFromLeftToRightWithoutSearchingTheReplacement) {
+    const struct {
+        const wchar_t *text, *find, *replace, *result;
+    } rows[] = {
+        {L"aaa", L"aa", L"b", L"ba"}, {L"aaa", L"a", L"aa", L"aaaaaa"},
+        {L"abc", L"x", L"y", L"abc"}, {L"abc", L"B", L"y", L"abc"},
+        {L"abc", L"abc", L"", L""},   {L"abc", L"b", null, L"ac"},
+        {L"abc", L"", L"x", L"abc"},  {L"abc", null, L"x", L"abc"},
+        {L"", L"a", L"x", L""},       {L"a.b.", L".", L"--", L"a--b--"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::Message() << ZString(row.text) << " " << ZString(row.find));
+        ZString string(row.text);
+        string.findAndReplace(row.find, row.replace);
+        EXPECT_EQ(wide(string), row.result);
+        EXPECT_EQ(string.allocLength(), string.length() + 1);
+    }
+}
+
+TEST(ZString, SlicesByStartAndCount) {
+    const struct {
+        int start, count;
+        const wchar_t* slice;
+    } rows[] = {
+        {1, 3, L"ell"},       {-2, -1, L"lo"}, {-2, 0, L""},
+        {10, 2, L""},         {5, 1, L""},     {0, 99, L"hello"},
+        {-7, 1, L"l"},        {4, 1, L"o"},    {INT_MAX, INT_MAX, L""},
+        {2, INT_MIN, L"llo"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::Message() << row.start << " " << row.count);
+        EXPECT_EQ(wide(ZString(L"hello").subString(row.start, row.count)), row.slice);
+    }
+    EXPECT_EQ(wide(ZString().subString(-2, 5)), L"");
+}
+
+TEST(ZString, TruncatesToSlotsAndKeepsShorterText) {
+    const struct {
+        int n;
+        const wchar_t* text;
+        int slots;
+    } rows[] = {{10, L"abc", 11}, {3, L"abc", 4}, {1, L"a", 2}, {0, L"", 1}, {-1, L"", 1}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.n);
+        ZString cut(L"abc");
+        cut.truncate(row.n);
+        EXPECT_EQ(wide(cut), row.text);
+        EXPECT_EQ(cut.allocLength(), row.slots);
+        ZString resized(L"abc");
+        resized.resize(row.n);
+        EXPECT_EQ(wide(resized), row.text);
+        EXPECT_EQ(resized.allocLength(), row.slots);
+    }
+}
+
+TEST(ZString, EmptyingKeepsTheAllocation) {
+    for (auto empty : {&ZString::empty, &ZString::reset}) {
+        ZString string(std::wstring(100, L'x').c_str());
+        const wchar_t* const before = static_cast<const ZString&>(string);
+        (string.*empty)();
+        EXPECT_EQ(string.allocLength(), 1);
+        EXPECT_EQ(wide(string), L"");
+        EXPECT_EQ(static_cast<const wchar_t*>(static_cast<const ZString&>(string)), before);
+    }
+}
+
+TEST(ZString, TrimsBlanksTabsAndLineEnds) {
+    const struct {
+        const wchar_t *text, *left, *right;
+    } rows[] = {
+        {L" \t\r\nab ", L"ab ", L" \t\r\nab"},
+        {L"ab", L"ab", L"ab"},
+        {L" \t", L"", L""},
+        {L"", L"", L""},
+        {L"\v\u00A0x\v", L"\v\u00A0x\v", L"\v\u00A0x\v"}, // other white space stays
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::Message() << ZString(row.text));
+        ZString left(row.text);
+        left.resize(40);
+        left.trimLeft();
+        EXPECT_EQ(wide(left), row.left);
+        EXPECT_EQ(left.allocLength(), left.length() + 1);
+        ZString right(row.text);
+        right.resize(40);
+        right.trimRight();
+        EXPECT_EQ(wide(right), row.right);
+        EXPECT_EQ(right.allocLength(), right.length() + 1);
+    }
+}
+
+TEST(ZString, MapsCase) {
+    ZString string(L"aB1\u00E9");
+    string.toUpper();
+    EXPECT_EQ(wide(string), L"AB1\u00E9");
+    string.toLower();
+    EXPECT_EQ(wide(string), L"ab1\u00E9");
+}
+
+TEST(ZString, EditsLikeTheStandardString) {
+    std::mt19937 random(20260102);
+    const auto pick = [&random](int below) { return static_cast<int>(random() % unsigned(below)); };
+    const auto piece = [&](int most) {
+        std::wstring text(static_cast<std::size_t>(pick(most + 1)), L' ');
+        for (wchar_t& unit : text)
+            unit = L"ab "[pick(3)];
+        return text;
+    };
+    for (int step : {-1, 0, 1, 5, 32}) {
+        ZString string(0, step);
+        std::wstring model;
+        for (int turn = 0; turn < 3000; ++turn) {
+            const std::wstring text = piece(6);
+            switch (pick(8)) {
+            case 0:
+                string += text.c_str();
+                model += text;
+                break;
+            case 1:
+                string += string;
+                model += model;
+                break;
+            case 2: {
+                const std::wstring wanted = piece(2) + L"a";
+                string.findAndReplace(wanted.c_str(), text.c_str());
+                std::size_t at = 0;
+                while ((at = model.find(wanted, at)) != model.npos) {
+                    model.replace(at, wanted.size(), text);
+                    at += text.size();
+                }
+                break;
+            }
+            case 3: {
+                const int start = pick(20);
+                string = string.subString(start, 30);
+                model = start < static_cast<int>(model.size())
+                            ? model.substr(static_cast<std::size_t>(start), 30)
+                            : L"";
+                break;
+            }
+            case 4:
+                string.trimLeft();
+                model.erase(0, model.find_first_not_of(L' '));
+                break;
+            case 5:
+                string.trimRight();
+                model.erase(model.find_last_not_of(L' ') + 1);
+                break;
+            case 6:
+                string.truncate(turn % 50);
+                model.resize((std::min)(model.size(), static_cast<std::size_t>(turn % 50)));
+                break;
+            case 7:
+                std::wcscpy(string, text.c_str());
+                string.resize();
+                model = text;
+                break;
+            }
+            ASSERT_EQ(wide(string), model) << "step " << step << ", turn " << turn;
+            const auto found = model.find(text);
+            ASSERT_EQ(string.findString(text.c_str()), text.empty() ? static_cast<int>(model.size())
+                                                       : found == model.npos
+                                                           ? -1
+                                                           : static_cast<int>(found));
+        }
+    }
+}
+
+} // namespace

@@ -1,0 +1,157 @@
+#include "tests/support.h"
+
+#include <zarnex/strings/ZString.h>
+
+#include <climits>
+#include <cmath>
+#include <cstdint>
+#include <cstdio>
+#include <cstring>
+#include <limits>
+#include <random>
+
+namespace {
+
+template <class... Arguments>
+std::wstring formatted(const wchar_t* format, Arguments... arguments) {
+    ZString string;
+    string.set(format, arguments...);
+    return wide(string);
+}
+
+TEST(ZStringSet, FormatsNumbers) {
+    EXPECT_EQ(formatted(L"%d|%5d|%-5d|%05d|%+d|% d", 42, 42, 42, 42, 42, 42),
+              L"42|   42|42   |00042|+42| 42");
+    EXPECT_EQ(formatted(L"%d %i", INT_MIN, -1), L"-2147483648 -1");
+    EXPECT_EQ(formatted(L"%.4d|%8.4d|%-8.4d|%08.4d|%.0d|%+.0d", 42, 42, 42, 42, 0, 0),
+              L"0042|    0042|0042    |    0042||+");
+    EXPECT_EQ(formatted(L"%u %o %x %X %#x %#o %#x %#.0o", UINT_MAX, 8, 255, 255, 255, 8, 0, 0),
+              L"4294967295 10 ff FF 0xff 010 0 0");
+    EXPECT_EQ(formatted(L"%hd %hhd %hu %hhx", 65537, 257, 65537, 0x1FF), L"1 1 1 ff");
+    EXPECT_EQ(formatted(L"%ld %lld %I64d %zu", -1L, LLONG_MIN, LLONG_MAX, std::size_t{7}),
+              L"-1 -9223372036854775808 9223372036854775807 7");
+    EXPECT_EQ(formatted(L"%*d|%*d|%-*d", 4, 7, -4, 7, 4, 7), L"   7|7   |7   ");
+    EXPECT_EQ(formatted(L"%p", reinterpret_cast<void*>(std::uintptr_t{0xABC})),
+              L"0000000000000ABC");
+    EXPECT_EQ(formatted(L"100%%|%5%"), L"100%|%");
+}
+
+TEST(ZStringSet, FormatsDoubles) {
+    EXPECT_EQ(formatted(L"%4.2lf|%4.1f|%f|%.0f|%#.0f", 2.345, 2.25, 0.5, 2.5, 2.5),
+              L"2.35|"
+              L" 2.2|0.500000|2|2.");
+    EXPECT_EQ(formatted(L"%e|%.2E|%g|%g|%G|%#g", 12345.678, 12345.678, 0.0001, 1e-5, 1e20, 1.5),
+              L"1.234568e+04|1.23E+04|0.0001|1e-05|1E+20|1.50000");
+    EXPECT_EQ(formatted(L"%#.3g|%#.3g|%#.0e", 100.0, 1e6, 5.0), L"100.|1.00e+06|5.e+00");
+    EXPECT_EQ(formatted(L"%a|%.1A", 1.0, 0.5), L"0x1p+0|0X1.0P-1");
+    EXPECT_EQ(formatted(L"%08.2f|%-8.2f|%+.1f|%+08.1f|% .1f", -1.5, 1.5, 1.5, 1.5, 1.5),
+              L"-0001.50|1.50    |+1.5|+00001.5| 1.5");
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(formatted(L"%f|%5.1f|%06f|%F|%+g|%f", infinity, -infinity, infinity, infinity,
+                        infinity, -std::nan("")),
+              L"inf| -inf|   inf|INF|+inf|nan");
+    EXPECT_EQ(formatted(L"%.2f|%.1e", -0.0, 1e300), L"-0.00|1.0e+300")
+        << "two exponent digits at least";
+    const std::wstring longest = formatted(L"%.1200f", std::numeric_limits<double>::denorm_min());
+    EXPECT_EQ(longest.size(), 1202u);
+    EXPECT_EQ(longest.substr(1000, 80), formatted(L"%.1078f", 4.9e-324).substr(1000, 80));
+    EXPECT_EQ(longest.back(), L'0');
+}
+
+TEST(ZStringSet, ReadsADigitBehindTheStarAsAFurtherDigitOfThePrecision) {
+    EXPECT_EQ(formatted(L"%4.*2f", 1, 2.5), L"2.500000000000");           // 12 decimals
+    EXPECT_EQ(formatted(L"%4.*2f", 2, 2.5), L"2.5000000000000000000000"); // 22 decimals
+    EXPECT_EQ(formatted(L"%.*2f", 0, 2.5), L"2.50");
+    EXPECT_EQ(formatted(L"%.*2f", -1, 2.5), L"2.500000");
+    EXPECT_EQ(formatted(L"%*.*lf", 8, 2, 2.5), L"    2.50");
+}
+
+TEST(ZStringSet, FormatsTextOfBothTypes) {
+    EXPECT_EQ(
+        formatted(L"%s|%ls|%S|%hs|%5s|%-5s|%.2s", L"ab", L"ab", "cd", "cd", L"ab", L"ab", L"abc"),
+        L"ab|ab|cd|cd|   ab|ab   |ab");
+    EXPECT_EQ(formatted(L"%c%C%hc%lc|%3c|%-3c", L'a', 'b', 'c', L'd', L'e', L'f'), L"abcd|  e|f  ");
+    EXPECT_EQ(formatted(L"%s|%.3s|%S", static_cast<wchar_t*>(nullptr),
+                        static_cast<wchar_t*>(nullptr), static_cast<char*>(nullptr)),
+              L"(null)|(nu|(null)");
+    const wchar_t open[2] = {L'a', L'b'}; // not terminated
+    EXPECT_EQ(formatted(L"%.2s|%.1S", open, "xyz"), L"ab|x");
+}
+
+TEST(ZStringSet, CopiesWhatItDoesNotKnow) {
+    EXPECT_EQ(formatted(L"%y %5.2k%n|%d", 7), L"%y %5.2k%n|7");
+    EXPECT_EQ(formatted(L"50%"), L"50%");
+    EXPECT_EQ(formatted(L"%-5.3"), L"%-5.3");
+    EXPECT_EQ(formatted(L"%\u00E9|%\u0164", 7), L"%\u00E9|%\u0164")
+        << "U+0164 ends in the byte of 'd'";
+}
+
+TEST(ZStringSet, NullLeavesTheStringAndAnEmptyFormatEmptiesIt) {
+    ZString string(L"abc");
+    string.set(nullptr);
+    EXPECT_EQ(wide(string), L"abc");
+    string.set(L"");
+    EXPECT_EQ(wide(string), L"");
+    EXPECT_EQ(string.allocLength(), 1);
+}
+
+TEST(ZStringSet, SlotsDoubleUntilTheTextIsStrictlyShorter) {
+    const struct {
+        int slots;
+        const wchar_t* format;
+        const wchar_t* argument;
+        int after;
+    } rows[] = {
+        {1, L"%s", L"abc", 5},                                 // twice the format is 4: 3 units fit
+        {1, L"%s", L"abcd", 9},                                // 4 units fill 4: doubled once
+        {1, L"%s", L"abcdefghi", 17}, {31, L"%s", L"abc", 31}, // the room stays
+        {4, L"x%sy", L"a", 9},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.after);
+        ZString string;
+        string.truncate(row.slots - 1);
+        string.set(row.format, row.argument);
+        EXPECT_EQ(string.allocLength(), row.after);
+        EXPECT_EQ(static_cast<const ZString&>(string)[row.after - 1], L'\0');
+    }
+}
+
+TEST(ZStringSet, AgreesWithTheStandardFormatterOnRandomDoubles) {
+    std::mt19937_64 random(20260103);
+    const char* const formats[] = {"%f",      "%.0f",  "%4.1f", "%+12.3e", "%-14.5g|", "%#.4g",
+                                   "%015.4f", "% .2f", "%.17g", "%.12f",   "%E",       "%#.0f"};
+    for (int turn = 0; turn < 20000; ++turn) {
+        double value;
+        const std::uint64_t bits = random();
+        if (turn % 2 == 0)
+            value = static_cast<double>(static_cast<std::int64_t>(bits)) / 65536e6;
+        else
+            std::memcpy(&value, &bits, sizeof value);
+        if (!std::isfinite(value))
+            continue;
+        const char* const format = formats[turn % 12];
+        char expected[512];
+        std::snprintf(expected, sizeof expected, format, value);
+#if defined(_WIN32)
+        if (std::string(format).find_first_of("eEg") != std::string::npos)
+            continue; // that runtime's formatter writes three digits of exponent
+        if (std::fabs(value) > 1e15)
+            continue; // and only 17 digits
+#endif
+        ASSERT_EQ(formatted(ZString(format), value), wide(ZString(expected)))
+            << format << " of " << value;
+    }
+}
+
+TEST(ZStringSet, WritesADotUnderALocaleWithAComma) {
+    const CommaLocale comma;
+    if (!comma.isSet())
+        GTEST_SKIP() << "no locale with a decimal comma here";
+    char text[8];
+    std::snprintf(text, sizeof text, "%.1f", 2.5);
+    ASSERT_STREQ(text, "2,5");
+    EXPECT_EQ(formatted(L"%4.2lf %g", 2.5, 0.25), L"2.50 0.25");
+}
+
+} // namespace
