@@ -9,3 +9,6 @@
 #include <zarnex/runtime/ZRefCount.h>
 #include <zarnex/runtime/ZarnexException.h>
 #include <zarnex/runtime/exiting.h>
+#include <zarnex/units/ZUnitScanner.h>
+#include <zarnex/units/unitIds.h>
+#include <zarnex/units/yy_scan.h>

@@ -1,0 +1,312 @@
+#include <zarnex/runtime/exiting.h>
+#include <zarnex/units/ZUnitScanner.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <clocale>
+#include <cstdlib>
+#include <optional>
+#include <random>
+#include <sstream>
+#include <string>
+#include <thread>
+#include <utility>
+#include <vector>
+
+namespace {
+
+// The tokens before the end: numbers as "=12.5", units as they are.
+std::string tokensOf(ZUnitScanner& scanner) {
+    std::ostringstream out;
+    while (const int token = scanner.yylex()) {
+        if (out.tellp() > 0)
+            out << ' ';
+        if (token == 1)
+            out << '=' << scanner.value;
+        else
+            out << token;
+    }
+    return out.str();
+}
+
+TEST(ZUnitScanner, TakesTheLongestTokenAndDropsTheRestUnderEveryLocale) {
+    const wchar_t allOnes[] = {static_cast<wchar_t>(-1), L'2', L'\0'};
+    const struct {
+        const wchar_t* text;
+        const char* tokens;
+    } rows[] = {
+        {L"", ""},
+        {nullptr, ""},
+        {L"abc", ""},
+        {L"12.5 mm", "=12.5 2"},
+        {L"12.5MM", "=12.5 2"},
+        {L"3 in", "=3 4"},
+        {L"3\"", "=3 4"},
+        {L"3 INCHES", "=3 4"},
+        {L"3 int", "=3 4"},
+        {L"40 per sq cm", "=40 7"},
+        {L"40 / sq ", "=40 7"},
+        {L"40 / sq", "=40"},
+        {L"40 per", "=40 5"},
+        {L"40 per  sq cm", "=40 5 3"},
+        {L"40 / square centimet", "=40 7"},
+        {L"6 stitches per inch", "=6 6"},
+        {L"6 stitches per in", "=6 6 5 4"},
+        {L"10.00 mm/s", "=10 2"},
+        {L"5 cm/s", "=5 3"},
+        {L"12.", "=12"},
+        {L".5", "=0.5"},
+        {L".", ""},
+        {L"-3", "=-3"},
+        {L"4 - 5", "=4 =4 =5"},
+        {L"2,5", "=2 =5"},
+        {L"0x10", "=0 =10"},
+        {L"\u0132 mm", "=2 2"},       // low bits of "2"
+        {L"5 \u016D\u016Dx", "=5 2"}, // low bits of "m"
+        {L"1\u01002", "=1 =2"},       // low bits 0
+        {L"1\u00FF2", "=1 =2"},       // low bits of the end mark
+        {allOnes, "=2"},
+        {L"1\r\n2\u00B0", "=1 =2"},
+    };
+    for (const char* locale : {"C", "", "de_DE.UTF-8", "tr_TR.UTF-8", "German", "Turkish"}) {
+        if (std::setlocale(LC_ALL, locale) == nullptr)
+            continue; // not on this machine; "C" always is
+        for (const auto& row : rows) {
+            SCOPED_TRACE(testing::Message() << locale << ": " << (row.text ? row.text : L"null"));
+            ZUnitScanner scanner(row.text);
+            EXPECT_EQ(tokensOf(scanner), row.tokens);
+            EXPECT_EQ(scanner.yylex(), 0) << "the end must last";
+        }
+    }
+    std::setlocale(LC_ALL, "C");
+}
+
+TEST(ZUnitScanner, TellsWhereTokensStandAndWhetherAWordWasDropped) {
+    const struct {
+        const wchar_t* text;
+        const char* found; // begin-end for each token and the end, "!" for a dropped word
+    } rows[] = {
+        {L"", "0-0"},
+        {L" 2.5 mm", "1-4 5-7 7-7"},
+        {L"3 int", "0-1 2-4 5-5"},
+        {L"5 cm/s", "0-1 2-4 6-6"},
+        {L"3 int t", "0-1 2-4 7-7!"},
+        {L"5 mm extra", "0-1 2-4 10-10!"},
+        {L"5 or 6 mm", "0-1 5-6! 7-9 9-9"},
+        {L"40 / sq ", "0-2 3-8 8-8"},
+        {L"40 / sq extra", "0-2 3-8 13-13!"},
+        {L"abc", "3-3"}, // begins the text: behind nothing
+        {L" abc", "4-4!"},
+        {L"5\r", "0-1 2-2"},
+        {L"5 \v\f", "0-1 4-4"},
+        {L"5\rx", "0-1 3-3!"},
+        {L"5\fx", "0-1 3-3!"},
+        {L"5\vx", "0-1 3-3!"},
+        {L"5 \u010D", "0-1 3-3!"}, // no carriage return, though it has its low bits
+        {L"5\u010Dx", "0-1 3-3"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.text);
+        ZUnitScanner scanner(row.text);
+        EXPECT_EQ(scanner.tokenEnd(), 0);
+        std::ostringstream found;
+        int token = 0;
+        do {
+            token = scanner.yylex();
+            found << (found.tellp() > 0 ? " " : "") << scanner.tokenBegin() << '-'
+                  << scanner.tokenEnd() << (scanner.wordDropped() ? "!" : "");
+        } while (token != 0);
+        EXPECT_EQ(found.str(), row.found);
+    }
+}
+
+// What the scanner must find, by trying every word at every place.
+class Oracle {
+public:
+    Oracle() {
+        for (const char* per : {"/", "per"})
+            for (const char* square : {"sq", "square"})
+                for (const char* unit : {"", "cm", "centi", "centimeter", "centimeters"})
+                    words_.push_back({std::string(per) + " " + square + " " + unit, 7});
+        const char* const lists[] = {"mm,milli,millimeter,millimeters",
+                                     "cm,centi,centimeter,centimeters", "\",in,inch,inches",
+                                     "p,pt,point,points", "spi,stitch,stitches,stitches per inch"};
+        int token = 2;
+        for (const char* list : lists) {
+            std::istringstream in(list);
+            for (std::string word; std::getline(in, word, ',');)
+                words_.push_back({word, token});
+            ++token;
+        }
+    }
+
+    std::string scan(const std::string& text) {
+        std::ostringstream out;
+        bool dropped = false;
+        for (std::size_t at = 0; at < text.size();) {
+            const auto [length, token] = longest(text, at);
+            if (length == 0) {
+                dropped |= at > 0 && isSpace(text[at - 1]) && !isSpace(text[at]);
+                ++at;
+                continue;
+            }
+            if (token == 1 && text.find_first_of("0123456789", at) < at + length)
+                number_ = std::strtod(text.substr(at, length).c_str(), nullptr);
+            if (token != 0) {
+                out << token << '@' << at << '-' << at + length << (dropped ? "!" : "") << '='
+                    << number_ << ' ';
+                dropped = false;
+            }
+            at += length;
+        }
+        out << (dropped ? "!" : "") << '=' << number_;
+        return out.str();
+    }
+
+private:
+    struct Word {
+        std::string text;
+        int token;
+    };
+
+    static bool isSpace(char c) {
+        return std::string(" \t\n\r\v\f").find(c) != std::string::npos;
+    }
+
+    static std::size_t endOf(const char* chars, const std::string& text, std::size_t at) {
+        return (std::min)(text.find_first_not_of(chars, at), text.size());
+    }
+
+    std::pair<std::size_t, int> longest(const std::string& text, std::size_t at) const {
+        const std::size_t sign = text[at] == '+' || text[at] == '-' ? 1 : 0;
+        std::size_t end = endOf("0123456789", text, at + sign);
+        if (end < text.size() && text[end] == '.' && endOf("0123456789", text, end + 1) > end + 1)
+            end = endOf("0123456789", text, end + 1);
+        std::pair<std::size_t, int> best{end - at, 1};
+        if (const std::size_t blanks = endOf(" \t\n", text, at) - at; blanks > best.first)
+            best = {blanks, 0};
+        for (const Word& word : words_)
+            if (word.text.size() > best.first && text.compare(at, word.text.size(), word.text) == 0)
+                best = {word.text.size(), word.token};
+        return best;
+    }
+
+    std::vector<Word> words_;
+    double number_ = 0.0;
+};
+
+TEST(ZUnitScanner, AgreesWithTryingEveryWordOnRandomTexts) {
+    std::vector<std::string> pieces = {" ", " ", " ", "  ", "\t", "\n", "\r"};
+    std::istringstream words("/ per sq square cm centi meter s milli m in ch es stitch spi p t "
+                             "oint \" + - . 0 1 27 x e r");
+    for (std::string word; words >> word;)
+        pieces.push_back(word);
+    std::mt19937 random(20240607);
+    Oracle oracle;
+    ZUnitScanner(L"0").yylex(); // both begin with the number 0
+    for (int round = 0; round < 20000; ++round) {
+        std::string text;
+        for (std::size_t n = random() % 12; n > 0; --n)
+            text += pieces[random() % pieces.size()];
+        const std::wstring wide(text.begin(), text.end());
+
+        ZUnitScanner scanner(wide.c_str());
+        std::ostringstream out;
+        while (const int token = scanner.yylex())
+            out << token << '@' << scanner.tokenBegin() << '-' << scanner.tokenEnd()
+                << (scanner.wordDropped() ? "!" : "") << '=' << scanner.value << ' ';
+        out << (scanner.wordDropped() ? "!" : "") << '=' << scanner.value;
+        ASSERT_EQ(out.str(), oracle.scan(text)) << "text: " << text;
+    }
+}
+
+TEST(ZUnitScanner, LoneSignKeepsTheNumberOfAnEarlierScanner) {
+    ZUnitScanner(L"42.5").yylex();
+    for (const wchar_t* text : {L"+ mm", L"- mm"}) {
+        ZUnitScanner scanner(text);
+        EXPECT_EQ(scanner.value, 0.0);
+        EXPECT_EQ(scanner.yylex(), 1);
+        EXPECT_EQ(scanner.value, 42.5);
+        scanner.value = 1.0;
+        EXPECT_EQ(scanner.yylex(), 2);
+        EXPECT_EQ(scanner.value, 42.5) << "a unit word stores the number again";
+    }
+}
+
+TEST(ZUnitScannerDeathTest, ATokenOfAHundredCharactersEndsTheProcess) {
+    const std::wstring digits(99, L'7');
+    const std::wstring blanks(99, L' ');
+    const struct {
+        std::wstring text;
+        int line;
+    } rows[] = {
+        {digits + L"7", 1},
+        {digits + L"77", 1},
+        {digits + L".", 1}, // a digit might follow
+        {L"-" + digits, 1},
+        {std::wstring(100, L'\t'), 1},
+        {std::wstring(100, L'\n'), 1}, // no line finished
+        {blanks + L" ", 1},
+        {L"1\n2 \n\n" + digits + L"7", 4},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.text);
+        const auto run = [&row] {
+            std::atexit([] { std::_Exit(isExiting() + 10); });
+            ZUnitScanner scanner(row.text.c_str());
+            tokensOf(scanner);
+        };
+        EXPECT_EXIT(run(), testing::ExitedWithCode(11),
+                    "^" + std::to_string(row.line) + ": Token buffer overflow\r?\n$");
+    }
+    for (const std::wstring& text : {digits, digits + L"x", blanks + digits, digits + L"mm."}) {
+        SCOPED_TRACE(text);
+        ZUnitScanner scanner(text.c_str());
+        EXPECT_EQ(scanner.yylex(), 1);
+        EXPECT_EQ(scanner.value, std::strtod(std::string(99, '7').c_str(), nullptr));
+    }
+}
+
+TEST(ZUnitScanner, HoldsTheLockForItsLifeButNotAgainstItsOwnThread) {
+    std::optional<ZUnitScanner> first(std::in_place, L"1 mm");
+    std::atomic<bool> passed = false;
+    std::thread other([&passed] {
+        ZUnitScanner waiting(L"2 mm");
+        passed = true;
+    });
+    {
+        ZUnitScanner second(L"3 cm");
+        EXPECT_EQ(tokensOf(second), "=3 3");
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(30));
+    EXPECT_FALSE(passed);
+    EXPECT_EQ(tokensOf(*first), "=1 2");
+    first.reset();
+    other.join();
+    EXPECT_TRUE(passed);
+}
+
+TEST(ZUnitScanner, CharactersComeWholeInLowerCaseAndTheEndStays) {
+    ZUnitScanner scanner(L"A\u0132\u00FFZ");
+    for (const int c : {int('a'), 0x132, 0xFF, int('z'), -1, -1})
+        EXPECT_EQ(scanner.yygetc(), c);
+}
+
+class CommaScanner : public ZUnitScanner {
+public:
+    using ZUnitScanner::ZUnitScanner;
+    int yygetc() override {
+        const int c = ZUnitScanner::yygetc();
+        return c == ',' ? '.' : c;
+    }
+};
+
+TEST(ZUnitScanner, DerivedScannersChangeTheCharacters) {
+    CommaScanner scanner(L"12,5 mm");
+    EXPECT_EQ(tokensOf(scanner), "=12.5 2");
+}
+
+} // namespace

@@ -1,0 +1,192 @@
+#include <zarnex/units/yy_scan.h>
+
+#include <zarnex/runtime/exiting.h>
+#include <zarnex/units/internal/automaton.h>
+
+#include <algorithm>
+#include <charconv>
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <limits>
+#include <new>
+
+namespace {
+
+using zarnex::detail::Automaton;
+using zarnex::detail::tokenRules;
+
+constexpr Automaton automaton = zarnex::detail::buildAutomaton(tokenRules);
+
+static_assert(automaton.rule[Automaton::start] == Automaton::noRule &&
+                  !automaton.last[Automaton::start],
+              "every round of the matching loop consumes a character");
+static_assert(automaton.rule[Automaton::dead] == Automaton::noRule &&
+                  automaton.last[Automaton::dead],
+              "the matching loop ends in the dead state");
+static_assert(automaton.classOf[0] == 0 && automaton.classOf['A'] == 0,
+              "no token holds a zero byte or a capital");
+
+/// The number that yy_scan::yynumber() tells; ZUnitScanner's lock guards it.
+constinit double scannedNumber = 0.0;
+
+/// What a number beyond the range of double becomes. `text` is digits with an
+/// optional ".": too large if a digit before the point counts, else too small.
+double limitOf(const char* text, const char* end) {
+    const char* point = std::find(text, end, '.');
+    const bool large = std::any_of(text, point, [](char c) { return c != '0'; });
+    return large ? std::numeric_limits<double>::infinity() : 0.0;
+}
+
+/// Sets scannedNumber from the text of a number token.
+void readNumber(const char* text, const char* end) {
+    const bool negative = *text == '-';
+    if (negative || *text == '+')
+        ++text;
+    double number = 0.0;
+    const auto [stop, error] = std::from_chars(text, end, number, std::chars_format::fixed);
+    if (error == std::errc::invalid_argument)
+        return; // a lone sign
+    if (error == std::errc::result_out_of_range)
+        number = limitOf(text, end);
+    scannedNumber = negative ? -number : number;
+}
+
+} // namespace
+
+yy_scan::yy_scan(int size) : yystates(nullptr), yysize(size), yyowned(1), yytext(nullptr) {
+    if (size >= 0) {
+        const std::size_t room = static_cast<std::size_t>(size) + 1;
+        yytext = new (std::nothrow) char[room];
+        yystates = new (std::nothrow) unsigned char[room];
+    }
+    if (yytext == nullptr || yystates == nullptr)
+        yy_scan::yyerror("No space for scanner!");
+    *yytext = '\0';
+}
+
+yy_scan::yy_scan(int size, char* text, unsigned char* states)
+    : yystates(states), yysize(size), yyowned(0), yytext(text) {
+    if (size < 20 || text == nullptr || states == nullptr)
+        yy_scan::yyerror("Bad space for scanner!");
+    *yytext = '\0';
+}
+
+yy_scan::~yy_scan() {
+    if (yyowned != 0) {
+        delete[] yytext;
+        delete[] yystates;
+    }
+}
+
+int yy_scan::yygetc() {
+    return yyin != nullptr ? std::getc(yyin) : -1;
+}
+
+int yy_scan::yywrap() {
+    return 1;
+}
+
+void yy_scan::yyputc(int c) {
+    if (yyout != nullptr)
+        std::putc(c, yyout);
+}
+
+void yy_scan::yyerror(const char* message) {
+    if (message == nullptr)
+        message = "";
+    if (yylineno != 0)
+        std::fprintf(stderr, "%d: %s\n", yylineno, message);
+    else
+        std::fprintf(stderr, "%s\n", message);
+    zarnex::exitFatally(nullptr, 1);
+}
+
+void yy_scan::yyecho() {
+    if (yyout != nullptr)
+        std::fwrite(yytext, 1, static_cast<std::size_t>(yyleng), yyout);
+}
+
+double yy_scan::yynumber() {
+    return scannedNumber;
+}
+
+int yy_scan::yylex() {
+    int token = yystep();
+    while (token < 0)
+        token = yystep();
+    return token;
+}
+
+int yy_scan::yystep() {
+    static_assert(yySkipped == zarnex::detail::skippedToken);
+
+    // The token before makes room, and what was read ahead begins the next one.
+    char* const text = yytext;
+    unsigned char* const states = yystates;
+    text[yyleng] = static_cast<char>(yysaved);
+    if (yyleng > 0) {
+        yyprevious = static_cast<unsigned char>(text[yyleng - 1]);
+        yylineno += static_cast<int>(std::count(text, text + yyleng, '\n'));
+        yyheld -= yyleng;
+        std::copy_n(text + yyleng, yyheld, text);
+        yyleng = 0;
+    }
+
+    std::uint8_t state = Automaton::start; // for every start condition, at a line's start or not
+    int length = 0;
+    while (!automaton.last[state]) {
+        if (length == yysize) {
+            yyerror("Token buffer overflow");
+            break;
+        }
+        unsigned char byte;
+        if (length < yyheld) {
+            byte = static_cast<unsigned char>(text[length]);
+        } else {
+            const int c = yygetc();
+            if (c == -1)
+                break;
+            byte = static_cast<unsigned char>(c & 0xFF);
+            text[yyheld++] = static_cast<char>(byte);
+        }
+        state = automaton.next[state][automaton.classOf[byte]];
+        states[++length] = state;
+    }
+
+    const bool atEnd = length == 0;
+    while (length > 0 && automaton.rule[states[length]] == Automaton::noRule)
+        --length;
+    const bool accepted = length > 0;
+    yyleng = accepted ? length : (atEnd ? 0 : 1);
+    yysaved = yyleng < yyheld ? static_cast<unsigned char>(text[yyleng]) : 0;
+    text[yyleng] = '\0';
+
+    if (accepted) {
+        const int token = tokenRules[automaton.rule[states[length]]].token;
+        if (token == zarnex::unitNumber)
+            readNumber(text, text + yyleng);
+        return token;
+    }
+    if (atEnd)
+        return yywrap() != 0 ? 0 : yySkipped;
+    return yyDropped;
+}
+
+void yy_scan::yyunput(int c) {
+    if (c == -1)
+        return;
+    if (yyheld >= yysize) {
+        yyerror("Push-back buffer overflow");
+        return;
+    }
+    // The character takes the place of the 0, and what stood there follows it.
+    char* const rest = yytext + yyleng;
+    std::copy_backward(rest, yytext + yyheld, yytext + yyheld + 1);
+    if (yyheld > yyleng)
+        rest[1] = static_cast<char>(yysaved);
+    yysaved = c & 0xFF;
+    ++yyheld;
+    if (yysaved == '\n')
+        --yylineno;
+}
