@@ -117,7 +117,7 @@ private:
     void grow(std::uint64_t needed);
     void resizeTo(std::uint32_t bytes);
 
-    // What insert(), remove(), move() and copy() do. The indices have room for any sum of two.
+    // What insert(), remove(), move() and copy() do, in indices with room for sums.
     void shiftFrom(std::int64_t i, int offset);
     int transfer(std::int64_t to, std::int64_t from, std::int64_t count, std::int64_t kb);
     void relay(T* staging, std::int64_t to, std::int64_t from, std::int64_t count);

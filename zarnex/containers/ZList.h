@@ -54,7 +54,8 @@ public:
 
     /// Empties this list, then copies every element of `source`, in order.
     ///
-    /// Kept as is: there is no guard, so assigning a list to itself empties it.
+    /// Kept as is: there is no guard, so assigning a list to itself empties it;
+    /// the arrays and strings keep their content.
     ZList& operator=(const ZList& source);
 
     /// Empties this list, then takes over the nodes of `source`.
@@ -87,9 +88,9 @@ public:
 
     /// The element at `index`, which wraps; only its lower 32 bits count.
     ///
-    /// The list must not be empty. The answer is then a default-constructed
-    /// element outside the list that all empty lists of this type share; where T
-    /// has no default constructor, the process ends with status 1.
+    /// Not for empty lists: all those of one type answer with one element that is
+    /// in none of them, at first default-constructed. Where T has no default
+    /// constructor, the process ends with status 1.
     T& operator[](long index);
     const T& operator[](long index) const;
     T& operator()(long index);

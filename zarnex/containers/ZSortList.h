@@ -49,8 +49,8 @@ public:
     /// it, and returns the copy. NaN goes in front of the last element.
     T& add(const T& element);
 
-    /// The position of an element equal to `element`, not always of the first
-    /// one; -1 if there is none, and for NaN.
+    /// The position of an element equal to `element`, any one of several; -1 if
+    /// there is none, and for NaN.
     int find(const T& element) const;
 
     /// Sets the direction of an empty list.
