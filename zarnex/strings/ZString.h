@@ -1,6 +1,7 @@
 #pragma once
 
 #include <zarnex/config.h>
+#include <zarnex/containers/ZList.h>
 #include <zarnex/containers/ZXArray.h>
 
 #include <cstddef>
@@ -307,3 +308,5 @@ ZARNEX_API int operator!=(const wchar_t* a, const ZString& b);
 ZARNEX_API std::ostream& operator<<(std::ostream& out, const ZString& text);
 
 extern template class ZARNEX_API ZXArray<ZString>;
+extern template class ZARNEX_API ZList<ZString>;
+extern template class ZARNEX_API ZList<std::pair<ZString, ZString>>;

@@ -60,3 +60,5 @@ int ZPercent::operator<(const ZPercent& other) const {
 int ZPercent::operator>(const ZPercent& other) const {
     return value_ > other.value_;
 }
+
+template class ZList<ZPercent>;

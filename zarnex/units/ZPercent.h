@@ -1,6 +1,7 @@
 #pragma once
 
 #include <zarnex/config.h>
+#include <zarnex/containers/ZList.h>
 #include <zarnex/strings/ZString.h>
 #include <zarnex/units/comparison.h>
 
@@ -40,3 +41,5 @@ public:
 private:
     double value_;
 };
+
+extern template class ZARNEX_API ZList<ZPercent>;
