@@ -25,3 +25,14 @@
 #else
 #define ZARNEX_INLINE inline
 #endif
+
+/// The same for a short member of an exported class template. Compilers do not look
+/// into a plain member behind an `extern template` line, but they do into an inline
+/// one, and call the library's copy where they do not inline it. A mingw-w64 DLL
+/// leaves inline members out of an instantiation, so there, in the build of the
+/// library alone, the mark is empty.
+#if defined(ZARNEX_BUILDING_FOUNDATION) && defined(_WIN32)
+#define ZARNEX_TEMPLATE_INLINE
+#else
+#define ZARNEX_TEMPLATE_INLINE inline
+#endif
