@@ -3,16 +3,20 @@
 /// Every public header of the library.
 
 #include <zarnex/config.h>
-#include <zarnex/containers/VMAccess.h>
-#include <zarnex/containers/ZArray.h>
-#include <zarnex/containers/ZArrayManager.h>
-#include <zarnex/containers/ZList.h>
-#include <zarnex/containers/ZListDefinitions.h>
-#include <zarnex/containers/ZListIterator.h>
-#include <zarnex/containers/ZListNode.h>
-#include <zarnex/containers/ZSortList.h>
-#include <zarnex/containers/ZXArray.h>
-#include <zarnex/containers/ZXArrayDefinitions.h>
+#include <zarnex/geometry/DPoint.h>
+#include <zarnex/geometry/DVector.h>
+#include <zarnex/geometry/GPoint.h>
+#include <zarnex/geometry/IPoint.h>
+#include <zarnex/geometry/IVector.h>
+#include <zarnex/geometry/ZCoord.h>
+#include <zarnex/geometry/ZTPoint.h>
+#include <zarnex/geometry/ZVector.h>
+#include <zarnex/geometry/angles.h>
+#include <zarnex/geometry/averages.h>
+#include <zarnex/geometry/formulas.h>
+#include <zarnex/geometry/orientation.h>
+#include <zarnex/geometry/rounding.h>
+#include <zarnex/geometry/tolerance.h>
 #include <zarnex/platform/records.h>
 #include <zarnex/runtime/MiniGuard.h>
 #include <zarnex/runtime/MiniLock.h>

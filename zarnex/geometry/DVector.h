@@ -13,7 +13,7 @@
 ///     along.ortho(1) * 0.5;        // (-2, 1.5), to the left of it
 ///
 /// Angles turn counter-clockwise with y growing upward. Overflow and NaN follow
-/// IEEE arithmetic in every member.
+/// IEEE arithmetic in every member. Members that change the vector return it.
 class ZARNEX_API DVector {
 public:
     double x;

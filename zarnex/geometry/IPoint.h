@@ -66,10 +66,9 @@ public:
     /// scale() with the products rounded, halves away from zero.
     IPoint& roundScale(double sx, double sy);
 
-    /// Truncates the result toward zero, although roundScale() and matrixRot() round.
-    ///
-    /// Kept as is: with the short pi of DPoint::rotate, so that whole turns of the
-    /// grid need not end on it: (10, 0) turned by 90 about the origin is (0, 9).
+    /// Kept as is: truncates the result toward zero, although roundScale() and
+    /// matrixRot() round, and with the short pi of DPoint::rotate: (10, 0) turned by
+    /// 90 about the origin is (0, 9).
     IPoint& rotate(double degrees, const IPoint& centre);
 
     /// Rounds the result, halves away from zero.

@@ -33,8 +33,8 @@ public:
 
     IVector operator*(const double& s) const;
 
-    /// The dot product, which wraps. projectOn(), projectOnUnit() and isSameSense() use
-    /// the exact one.
+    /// Kept as is: the dot product, wrapped into 32 bits, although length() and cross()
+    /// are doubles. projectOn(), projectOnUnit() and isSameSense() use a double as well.
     int operator*(const IVector& v) const;
 
     /// 1 if both components are exactly equal, else 0.

@@ -6,10 +6,9 @@
 
 /// A place in the plane, in integers of type T; for short, 16 bits.
 ///
-/// Sums, differences and negation wrap into T. Everything else is computed in doubles from
-/// the exact coordinates; where the result is a point again its coordinates are
-/// truncated toward zero unless said, the nearest T where they do not fit and 0
-/// for NaN.
+/// Sums, differences and negation wrap into T. Everything else is computed in doubles
+/// from the exact coordinates; where the result is a point again its coordinates are
+/// truncated toward zero unless said, the nearest T where they do not fit and 0 for NaN.
 ///
 /// Members say what differs from DPoint, where each is described.
 template <class T>
@@ -66,10 +65,9 @@ public:
     /// scale() with the products rounded, halves away from zero.
     ZCoord& roundScale(double sx, double sy);
 
-    /// Truncates the result toward zero, although roundScale() and matrixRot() round.
-    ///
-    /// Kept as is: with the short pi of DPoint::rotate, so that whole turns of the
-    /// grid need not end on it: (10, 0) turned by 90 about the origin is (0, 9).
+    /// Kept as is: truncates the result toward zero, although roundScale() and
+    /// matrixRot() round, and with the short pi of DPoint::rotate: (10, 0) turned by
+    /// 90 about the origin is (0, 9).
     ZCoord& rotate(double degrees, const ZCoord& centre);
 
     /// Rounds the result, halves away from zero.

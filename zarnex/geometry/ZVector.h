@@ -5,8 +5,8 @@
 
 /// A displacement in the plane, in integers of type T; for short, 16 bits.
 ///
-/// Sums, differences and negation wrap into T. Everything else is computed in doubles from
-/// the exact components; where the result is a vector again its components are
+/// Sums, differences and negation wrap into T. Everything else is computed in doubles
+/// from the exact components; where the result is a vector again its components are
 /// truncated toward zero, the nearest T where they do not fit and 0 for NaN.
 ///
 /// Members say what differs from DVector, where each is described.

@@ -9,6 +9,10 @@
 ///
 /// Plain sums and differences of integer coordinates do not take this way: they
 /// wrap, see sum() and difference().
+///
+/// The order of operations is fixed, and with it every bit of a result, as long as the
+/// compiler does not fuse products into sums: where it would, as g++ does for processors
+/// with FMA, compile hosts with -ffp-contract=off as the library is.
 
 #include <zarnex/geometry/rounding.h>
 
@@ -45,7 +49,7 @@ constexpr T truncateTo(double value) {
 
 /// `value` as a coordinate of type T on the integer grid, halves away from zero.
 template <class T>
-constexpr T roundTo(double value) {
+T roundTo(double value) {
     if constexpr (std::is_floating_point_v<T>)
         return static_cast<T>(roundHalfAway(value));
     else
@@ -96,7 +100,7 @@ constexpr V truncated(Pair p) {
 }
 
 template <class V>
-constexpr V rounded(Pair p) {
+V rounded(Pair p) {
     return V(roundTo<decltype(V::x)>(p.x), roundTo<decltype(V::y)>(p.y));
 }
 
@@ -189,7 +193,7 @@ constexpr Pair mapped(Pair p, const double m[2][3], double z) {
             p.x * m[1][0] + p.y * m[1][1] + m[1][2] * z};
 }
 
-constexpr Pair mirrored(Pair p, Pair a, Pair b) {
+inline Pair mirrored(Pair p, Pair a, Pair b) {
     if (a.y == b.y)
         return {p.x, 2.0 * a.y - p.y};
     if (a.x == b.x)

@@ -1,10 +1,11 @@
 #pragma once
 
-/// Doubles to integers, in the two ways that the library knows.
+/// Doubles to integers: without the fraction, and to the nearest.
 ///
-/// Neither calls the mathematical library, and no argument is out of contract:
-/// where the result does not fit it is the nearest int, and NaN gives 0.
+/// No argument is out of contract: an int result that does not fit is the nearest int,
+/// and NaN gives 0. All are a few instructions without a call.
 
+#include <cmath>
 #include <limits>
 
 namespace zarnex {
@@ -18,7 +19,7 @@ constexpr int truncateToInt(double value);
 /// Kept as is: computed as trunc(value + 0.5) for values above 0 and as
 /// -trunc(0.5 - value) for the others, so that the largest double below 0.5 gives 1,
 /// where std::round gives 0.
-constexpr int roundHalfAwayToInt(double value);
+inline int roundHalfAwayToInt(double value);
 
 /// The same rounding with a double as its result, for values of any size.
 ///
@@ -26,7 +27,7 @@ constexpr int roundHalfAwayToInt(double value);
 ///
 /// Kept as is: as for roundHalfAwayToInt; odd values from 2^52 to 2^53 move to the
 /// next even one away from zero.
-constexpr double roundHalfAway(double value);
+inline double roundHalfAway(double value);
 
 constexpr int truncateToInt(double value) {
     if (value > -2147483649.0 && value < 2147483648.0)
@@ -36,12 +37,13 @@ constexpr int truncateToInt(double value) {
     return value < 0.0 ? (std::numeric_limits<int>::min)() : 0;
 }
 
-constexpr int roundHalfAwayToInt(double value) {
-    return truncateToInt(value > 0.0 ? value + 0.5 : value - 0.5);
+// Truncation is symmetric, so trunc(value - 0.5) is -trunc(0.5 - value).
+inline int roundHalfAwayToInt(double value) {
+    return truncateToInt(value + std::copysign(0.5, value));
 }
 
-constexpr double roundHalfAway(double value) {
-    const double shifted = value > 0.0 ? value + 0.5 : value - 0.5;
+inline double roundHalfAway(double value) {
+    const double shifted = value + std::copysign(0.5, value);
     constexpr double wholeFrom = 4503599627370496.0; // 2^52: no double has a fraction from here on
     if (shifted > -wholeFrom && shifted < wholeFrom)
         return static_cast<double>(static_cast<long long>(shifted));

@@ -2,12 +2,12 @@
 
 /// Comparisons within a tolerance.
 ///
-/// Every bound is inclusive, and every function returns 1 or 0. A test of two
-/// points is a box test, coordinate by coordinate, not one of their distance; the
-/// operators == of the points differ from it in their strict bound of 1e-11. A
-/// comparison with a NaN gives 0 unless said, as does a negative tolerance.
+/// Every function returns 1 or 0. A comparison with a NaN gives 0 unless said, as does a
+/// negative tolerance. A tolerance in double is 1e-9 where the caller names none.
 ///
-/// A tolerance in double is 1e-9 where the caller names none.
+/// Kept as is: every bound is inclusive, although == of the points has a strict one, and
+/// a test of two points is a box test, coordinate by coordinate, not one of their
+/// distance.
 
 #include <zarnex/config.h>
 #include <zarnex/geometry/DPoint.h>
@@ -31,13 +31,7 @@ ZARNEX_API int IS_EQUAL(double a, double b, double tol = 1e-9);
 /// compared as doubles, within 1e-9.
 template <class A, class B,
           class = std::enable_if_t<std::is_arithmetic_v<A> && std::is_arithmetic_v<B>>>
-int IS_EQUAL(A a, B b) {
-    if constexpr (std::is_floating_point_v<A> || std::is_floating_point_v<B>)
-        return IS_EQUAL(static_cast<double>(a), static_cast<double>(b), 1e-9);
-    else
-        return (a < A()) == (b < B()) &&
-               static_cast<std::common_type_t<A, B>>(a) == static_cast<std::common_type_t<A, B>>(b);
-}
+int IS_EQUAL(A a, B b);
 
 /// 1 if a = 0.
 ZARNEX_API int IS_ZERO(int a);
@@ -47,12 +41,10 @@ ZARNEX_API int IS_ZERO(double a, double tol = 1e-9);
 
 /// The same for every other integer type.
 template <class A, class = std::enable_if_t<std::is_integral_v<A>>>
-int IS_ZERO(A a) {
-    return a == A();
-}
+int IS_ZERO(A a);
 
 /// 1 if |a.x - b.x| <= tol and |a.y - b.y| <= tol; for ZCoord in integers, which
-/// cannot overflow.
+/// cannot overflow, and exactly where the caller names no tolerance.
 ZARNEX_API int isEqual(const ZCoord<short>& a, const ZCoord<short>& b, int tol = 0);
 ZARNEX_API int isEqual(const DPoint& a, const DPoint& b, double tol = 1e-9);
 ZARNEX_API int isEqual(const DVector& a, const DVector& b, double tol = 1e-9);
@@ -115,4 +107,18 @@ ZARNEX_INLINE int isEqual(const IVector& a, const IVector& b) {
 ZARNEX_INLINE int isPointInBox(const DPoint& p, double x1, double y1, double x2, double y2,
                                double tol) {
     return !((p.x - x1) * (p.x - x2) > tol || (p.y - y1) * (p.y - y2) > tol);
+}
+
+template <class A, class B, class>
+int IS_EQUAL(A a, B b) {
+    using Common = std::common_type_t<A, B>;
+    if constexpr (std::is_floating_point_v<Common>)
+        return IS_EQUAL(static_cast<double>(a), static_cast<double>(b), 1e-9);
+    else
+        return (a < A()) == (b < B()) && static_cast<Common>(a) == static_cast<Common>(b);
+}
+
+template <class A, class>
+int IS_ZERO(A a) {
+    return a == A();
 }
