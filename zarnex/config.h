@@ -36,3 +36,11 @@
 #else
 #define ZARNEX_TEMPLATE_INLINE inline
 #endif
+
+/// A condition that hardly ever holds. The hint keeps compilers from turning the
+/// branch into a conditional move, which would slow each step along a list.
+#if defined(__GNUC__)
+#define ZARNEX_UNLIKELY(condition) __builtin_expect((condition) ? 1 : 0, 0)
+#else
+#define ZARNEX_UNLIKELY(condition) (condition)
+#endif

@@ -3,6 +3,16 @@
 /// Every public header of the library.
 
 #include <zarnex/config.h>
+#include <zarnex/containers/VMAccess.h>
+#include <zarnex/containers/ZArray.h>
+#include <zarnex/containers/ZArrayManager.h>
+#include <zarnex/containers/ZList.h>
+#include <zarnex/containers/ZListDefinitions.h>
+#include <zarnex/containers/ZListIterator.h>
+#include <zarnex/containers/ZListNode.h>
+#include <zarnex/containers/ZSortList.h>
+#include <zarnex/containers/ZXArray.h>
+#include <zarnex/containers/ZXArrayDefinitions.h>
 #include <zarnex/geometry/DPoint.h>
 #include <zarnex/geometry/DVector.h>
 #include <zarnex/geometry/GPoint.h>

@@ -21,3 +21,6 @@ DPoint& DPoint::mirror(const DPoint& a, const DPoint& b) {
     using namespace zarnex::detail;
     return *this = truncated<DPoint>(mirrored(widened(*this), widened(a), widened(b)));
 }
+
+template class ZList<DPoint>;
+template class ZXArray<DPoint>;

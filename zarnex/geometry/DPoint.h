@@ -1,6 +1,8 @@
 #pragma once
 
 #include <zarnex/config.h>
+#include <zarnex/containers/ZList.h>
+#include <zarnex/containers/ZXArray.h>
 #include <zarnex/geometry/DVector.h>
 #include <zarnex/geometry/formulas.h>
 
@@ -210,3 +212,6 @@ ZARNEX_INLINE DPoint& DPoint::translate(double dx, double dy) {
 ZARNEX_INLINE DPoint& DPoint::scale(double sx, double sy) {
     return *this = DPoint(x * sx, y * sy);
 }
+
+extern template class ZARNEX_API ZList<DPoint>;
+extern template class ZARNEX_API ZXArray<DPoint>;

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <zarnex/config.h>
+#include <zarnex/containers/ZList.h>
+#include <zarnex/containers/ZXArray.h>
 #include <zarnex/geometry/formulas.h>
 
 /// A displacement in the plane, in double precision.
@@ -218,3 +220,6 @@ ZARNEX_INLINE int DVector::isSameSense(const DVector& v) const {
 ZARNEX_INLINE DVector operator*(double s, const DVector& v) {
     return v * s;
 }
+
+extern template class ZARNEX_API ZList<DVector>;
+extern template class ZARNEX_API ZXArray<DVector>;

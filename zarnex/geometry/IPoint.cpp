@@ -21,3 +21,6 @@ IPoint& IPoint::mirror(const IPoint& a, const IPoint& b) {
     using namespace zarnex::detail;
     return *this = truncated<IPoint>(mirrored(widened(*this), widened(a), widened(b)));
 }
+
+template class ZList<IPoint>;
+template class ZList<ZList<IPoint>*>;

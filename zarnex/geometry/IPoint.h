@@ -1,6 +1,7 @@
 #pragma once
 
 #include <zarnex/config.h>
+#include <zarnex/containers/ZList.h>
 #include <zarnex/geometry/IVector.h>
 #include <zarnex/geometry/formulas.h>
 
@@ -199,3 +200,6 @@ ZARNEX_INLINE IPoint& IPoint::scale(double sx, double sy) {
     using namespace zarnex::detail;
     return *this = truncated<IPoint>(scaled(widened(*this), sx, sy));
 }
+
+extern template class ZARNEX_API ZList<IPoint>;
+extern template class ZARNEX_API ZList<ZList<IPoint>*>;
