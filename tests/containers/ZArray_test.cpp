@@ -1,3 +1,5 @@
+#include "tests/slots.h"
+
 #include <zarnex/containers/ZArray.h>
 
 #include <gtest/gtest.h>
@@ -59,14 +61,8 @@ TEST(ZArray, FieldsAndSlotsStandInTheirOrder) {
     EXPECT_EQ(fields.growBytes, 400u);
     EXPECT_EQ(fields.cache[99], 0.0f);
 
-    // A pointer to a virtual member holds its table offset plus 1.
-    float& (Floats::*insert)(const float&, int) = &Floats::insert;
-    float& (Floats::*remove)(int) = &Floats::remove;
-    std::uintptr_t slots[2];
-    std::memcpy(&slots[0], &insert, sizeof slots[0]);
-    std::memcpy(&slots[1], &remove, sizeof slots[1]);
-    EXPECT_EQ(slots[0], 1u);
-    EXPECT_EQ(slots[1], 1 + sizeof(void*));
+    EXPECT_EQ(slotOf(&Floats::insert), 0);
+    EXPECT_EQ(slotOf(static_cast<float& (Floats::*)(int)>(&Floats::remove)), 1);
 }
 
 TEST(ZArray, AccessKeepsOneGrowthStepInReserve) {
