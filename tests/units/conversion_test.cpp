@@ -93,6 +93,11 @@ TEST(ConvertZUnits, CarriesTheDisplayedPrecision) {
     EXPECT_EQ(convertZUnits(2, 12.7, 8, 0), 12.0);
 }
 
+TEST(ConvertZUnitsDeathTest, TextOfAHundredCharactersEndsTheProcess) {
+    EXPECT_EXIT(convertZUnits(2, 1e98, 4, 0), testing::ExitedWithCode(1),
+                "1: Token buffer overflow");
+}
+
 TEST(ConvertZUnits, WorksOnSeveralThreadsAtOnce) {
     std::vector<std::thread> threads;
     std::vector<int> wrong(4);

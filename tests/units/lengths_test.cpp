@@ -282,22 +282,6 @@ TEST(Lengths, CompareEachByTheirOwnRule) {
     }
 }
 
-TEST(Lengths, CompareAndAppendNaturally) {
-    ZMillimeter millimeter(2.5);
-    EXPECT_TRUE(millimeter == 2.5);
-    EXPECT_TRUE(2.5 == millimeter);
-    EXPECT_TRUE(millimeter == 2.5 + 1e-10);
-    EXPECT_TRUE(millimeter != 3);
-    EXPECT_TRUE(3 != millimeter);
-    EXPECT_TRUE(millimeter < 3);
-    EXPECT_TRUE(millimeter > 2);
-    EXPECT_TRUE(2 < millimeter);
-    EXPECT_EQ(millimeter + 1, 3.5);
-    ZString label(L"length: ");
-    label += millimeter;
-    EXPECT_EQ(wide(label + L", " + ZInch(1.0)), L"length:  2.5 mm, 1.00 in");
-}
-
 // A host's own kind of centimetre, which refuses inches.
 class Metric : public ZCentimeter {
 public:
@@ -309,6 +293,32 @@ protected:
         return unit == 4 ? 0 : ZCentimeter::setValue(value, unit);
     }
 };
+
+TEST(Lengths, CompareAndAppendNaturally) {
+    ZMillimeter millimeter(2.5);
+    EXPECT_TRUE(millimeter == 2.5);
+    EXPECT_TRUE(2.5 == millimeter);
+    EXPECT_TRUE(millimeter == 2.5 + 1e-10);
+    EXPECT_TRUE(millimeter != 3);
+    EXPECT_TRUE(3 != millimeter);
+    EXPECT_TRUE(millimeter < 3);
+    EXPECT_TRUE(millimeter > 2);
+    EXPECT_TRUE(2 < millimeter);
+    EXPECT_EQ(millimeter + 1, 3.5);
+    EXPECT_TRUE(Metric() == 0) << "a host's derived class";
+    EXPECT_TRUE(0 != Metric() + 1);
+    millimeter = ZString(L"2 cm x");
+    EXPECT_EQ(double(millimeter), 20.0);
+    EXPECT_FALSE(millimeter.isValid());
+    millimeter = L"3 cm";
+    EXPECT_EQ(double(millimeter), 30.0);
+    millimeter = 2;
+    EXPECT_TRUE(millimeter.isValid());
+    millimeter = 2.5;
+    ZString label(L"length: ");
+    label += millimeter;
+    EXPECT_EQ(wide(label + L", " + ZInch(1.0)), L"length:  2.5 mm, 1.00 in");
+}
 
 TEST(ZCentimeter, ReadsThroughItsVirtualSetValue) {
     Metric metric;
@@ -328,8 +338,9 @@ public:
 TEST(Lengths, SlotsAndPolymorphismAreKept) {
     EXPECT_EQ(slotOf(Named::setValueSlot()), 0);
     EXPECT_EQ(slotOf(&ZCentimeter::setStringWithUnits), 3);
-    EXPECT_EQ(slotOf(&ZCentimeter::getStringWithUnits), 4);
-    EXPECT_EQ(slotOf(&ZCentimeter::getDensityStringWithUnits), 5);
+    using Text = ZString (ZCentimeter::*)(int);
+    EXPECT_EQ(slotOf(static_cast<Text>(&ZCentimeter::getStringWithUnits)), 4);
+    EXPECT_EQ(slotOf(static_cast<Text>(&ZCentimeter::getDensityStringWithUnits)), 5);
     using Conversion = ZString (ZCentimeter::*)();
     using ConstConversion = ZString (ZCentimeter::*)() const;
     EXPECT_EQ(slotOf(static_cast<Conversion>(&ZCentimeter::operator ZString)), 6);

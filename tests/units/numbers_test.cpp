@@ -78,12 +78,26 @@ TEST(ZRealNumber, ReadsTheLeadingNumber) {
         {L"0e999", 0.0},
         {L"1e99999999999999999999", infinity},
         {L"0.00001e-99999999999999999999", 0.0},
+        {L"1e9223372036854775807", infinity},
+        {L"0.01e-9223372036854775808", 0.0},
+        {L"0x1p9223372036854775807", infinity},
+        {L"0xinf", 0.0},
+        {L"0xnan", 0.0},
+        {L"0x1p+-5", 1.0},
+        {L"0x1p+5", 32.0},
+        {L"1e+-5", 1.0},
+        {L"-", 0.0},
+        {L"-x", 0.0},
         {L"0x1p99999", infinity},
         {L"4.9e-324", 4.9e-324},
         {L"2,5", 2.0},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(double(ZRealNumber(ZString(row.text))), row.number) << ZString(row.text);
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::Message() << ZString(row.text));
+        const double number = ZRealNumber(ZString(row.text));
+        EXPECT_EQ(number, row.number);
+        EXPECT_EQ(std::signbit(number), std::signbit(row.number));
+    }
     EXPECT_TRUE(std::isnan(double(ZRealNumber(ZString(L"nan")))));
     EXPECT_TRUE(std::signbit(double(ZRealNumber(ZString(L"-0")))));
 }
@@ -91,12 +105,15 @@ TEST(ZRealNumber, ReadsTheLeadingNumber) {
 TEST(ZRealNumber, ReadsWhatTheStandardReaderReads) {
     std::mt19937 random(20260104);
     const wchar_t units[] = L"0019.eE+-  x";
+    const std::size_t count = std::size(units) - 1;
     for (int turn = 0; turn < 30000; ++turn) {
         std::wstring text(random() % 12, L' ');
         for (wchar_t& unit : text)
-            unit = units[random() % (std::size(units) - 2)];
-        ASSERT_EQ(double(ZRealNumber(ZString(text.c_str()))), std::wcstod(text.c_str(), nullptr))
-            << ZString(text.c_str());
+            unit = units[random() % count];
+        const double number = ZRealNumber(ZString(text.c_str()));
+        const double expected = std::wcstod(text.c_str(), nullptr);
+        ASSERT_EQ(number, expected) << ZString(text.c_str());
+        ASSERT_EQ(std::signbit(number), std::signbit(expected)) << ZString(text.c_str());
     }
 }
 
@@ -111,6 +128,7 @@ TEST(ZHalfNumber, RoundsToTheNearestHalf) {
         EXPECT_EQ(double(ZHalfNumber(row.value)), row.half) << row.value;
     EXPECT_TRUE(std::isnan(double(ZHalfNumber(std::nan("")))));
     EXPECT_EQ(double(ZHalfNumber(ZString(L"2.3"))), 2.5);
+    EXPECT_EQ(wide(ZHalfNumber(-0.0)), L" 0.0");
 }
 
 template <class Quantity>
@@ -165,6 +183,8 @@ TEST(Numbers, Compare) {
     EXPECT_TRUE(ZPercent(nan) != ZPercent(nan));
     EXPECT_TRUE(ZPercent(3.0) > ZPercent(2.0));
     EXPECT_FALSE(ZPercent(2.0) > ZPercent(2.0));
+    EXPECT_TRUE(ZPercent(51.0) > 50);
+    EXPECT_FALSE(ZPercent(51.0) < 50);
 }
 
 } // namespace

@@ -79,6 +79,9 @@ TEST(Rates, Render) {
     EXPECT_EQ(wide(slow.getStringWithUnits(2)), L"1.20 cm/s");
     EXPECT_EQ(wide(slow.getDensityStringWithUnits(2)), L"12.00 mm");
     EXPECT_EQ(wide(slow.getDensityStringWithUnits(4)), L"1.20 cm/s");
+    const ZCentimeter& constBase = slow;
+    EXPECT_EQ(wide(constBase.getStringWithUnits(2)), L"1.20 cm/s");
+    EXPECT_EQ(wide(constBase.getDensityStringWithUnits(2)), L"12.00 mm");
     ZCentimeter& base = slow;
     EXPECT_EQ(wide(base), L"1.20 cm/s") << "the conversion is virtual";
     EXPECT_EQ(base.getUnitId(), 12);
@@ -140,9 +143,13 @@ TEST(Rates, ConvertByAssignment) {
     checkAssigned<ZMillimeterPerSec>(ZEmbPoint(2.0), 0.2);
     checkAssigned<ZMillimeterPerSec>(ZInch(2.0), 50.8);
     checkAssigned<ZMillimeterPerSec>(ZSpi(2.0), 12.7);
+    checkAssigned<ZCentimeterPerSec>(ZCentimeter(2.0), 2.0);
+    checkAssigned<ZCentimeterPerSec>(ZSpi(2.0), 1.27);
     ZCentimeterPerSec speed(7.0);
     speed = ZMillimeter(5.0);
     EXPECT_EQ(double(speed), 0.5);
+    speed = L"5 spi"; // densities are refused in text
+    EXPECT_EQ(double(speed), 5.0);
     EXPECT_EQ(speed.getUnitId(), 12);
 }
 

@@ -45,6 +45,17 @@ ZCentimeter::ZCentimeter(const ZSpi& density) : ZCentimeter() {
     *this = density;
 }
 
+ZCentimeter& ZCentimeter::operator=(double value) {
+    value_ = value;
+    valid_ = 1;
+    return *this;
+}
+
+ZCentimeter& ZCentimeter::operator=(const ZString& text) {
+    setStringWithUnits(text, unitNumber);
+    return *this;
+}
+
 ZCentimeter& ZCentimeter::operator=(const ZMillimeter& length) {
     value_ = convertAssigned(Target::centimeter, length, unitMillimeter);
     valid_ = length.isValid();
@@ -126,6 +137,16 @@ ZString ZCentimeter::getStringWithUnits(int unit) {
 ZString ZCentimeter::getDensityStringWithUnits(int unit) {
     return unit == unitMillimeter ? ZMillimeter(*this).getDensityString(4, 2)
                                   : getStringWithUnits(unit);
+}
+
+// No virtual operation of the library changes the object; that of a host that does
+// must not be handed const objects.
+ZString ZCentimeter::getStringWithUnits(int unit) const {
+    return const_cast<ZCentimeter*>(this)->getStringWithUnits(unit);
+}
+
+ZString ZCentimeter::getDensityStringWithUnits(int unit) const {
+    return const_cast<ZCentimeter*>(this)->getDensityStringWithUnits(unit);
 }
 
 int ZCentimeter::operator==(const ZCentimeter& other) const {

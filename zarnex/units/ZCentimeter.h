@@ -20,10 +20,13 @@ class ZSpi;
 /// labels and fixed identifiers.
 class ZARNEX_API ZCentimeter {
 protected:
-    /// As ZMillimeter::setValue(). Called for every text that is read.
+    /// As ZMillimeter::setValue(). Called for each unit that is tried when a number
+    /// was read.
     virtual int setValue(double value, int unit);
 
 public:
+    using Quantity = ZCentimeter;
+
     ZCentimeter(double centimeters = 0.0);
     ZCentimeter(const ZString& text);
 
@@ -35,6 +38,10 @@ public:
     ZCentimeter& operator=(const ZCentimeter& other);
 
     virtual ~ZCentimeter();
+
+    /// As the constructors from a number and from text.
+    ZCentimeter& operator=(double value);
+    ZCentimeter& operator=(const ZString& text);
 
     /// Convert and take the validity flag over. A density becomes its stitch
     /// length, a density of exactly 0.0 the length 0.0.
@@ -64,6 +71,10 @@ public:
     /// For unit 2 in millimetres as "%4.2lf" and the label, for others
     /// getStringWithUnits().
     virtual ZString getDensityStringWithUnits(int unit);
+
+    /// The same for const objects, through the virtual operations.
+    ZString getStringWithUnits(int unit) const;
+    ZString getDensityStringWithUnits(int unit) const;
 
     /// "%4.1lf" and the label.
     virtual operator ZString();

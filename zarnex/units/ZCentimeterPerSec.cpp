@@ -13,6 +13,26 @@ ZCentimeterPerSec::ZCentimeterPerSec(const ZString& text) : ZCentimeterPerSec() 
     ZCentimeterPerSec::setStringWithUnits(text, unitNumber);
 }
 
+ZCentimeterPerSec::ZCentimeterPerSec(const ZCentimeter& length) : ZCentimeterPerSec() {
+    *this = length;
+}
+
+ZCentimeterPerSec::ZCentimeterPerSec(const ZMillimeter& length) : ZCentimeterPerSec() {
+    *this = length;
+}
+
+ZCentimeterPerSec::ZCentimeterPerSec(const ZInch& length) : ZCentimeterPerSec() {
+    *this = length;
+}
+
+ZCentimeterPerSec::ZCentimeterPerSec(const ZEmbPoint& length) : ZCentimeterPerSec() {
+    *this = length;
+}
+
+ZCentimeterPerSec::ZCentimeterPerSec(const ZSpi& density) : ZCentimeterPerSec() {
+    *this = density;
+}
+
 ZCentimeterPerSec::~ZCentimeterPerSec() = default;
 
 int ZCentimeterPerSec::setValue(double value, int unit) {

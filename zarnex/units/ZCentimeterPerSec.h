@@ -16,6 +16,13 @@ public:
     ZCentimeterPerSec(double centimetersPerSec = 0.0);
     ZCentimeterPerSec(const ZString& text);
     ZCentimeterPerSec(const ZCentimeterPerSec& other) = default;
+
+    /// The length per second, by assignment: a density counts as its stitch length.
+    explicit ZCentimeterPerSec(const ZCentimeter& length);
+    explicit ZCentimeterPerSec(const ZMillimeter& length);
+    explicit ZCentimeterPerSec(const ZInch& length);
+    explicit ZCentimeterPerSec(const ZEmbPoint& length);
+    explicit ZCentimeterPerSec(const ZSpi& density);
     ZCentimeterPerSec& operator=(const ZCentimeterPerSec& other) = default;
     using ZCentimeter::operator=;
 
@@ -25,6 +32,7 @@ public:
 
     /// The own text for every unit.
     ZString getStringWithUnits(int unit) override;
+    using ZCentimeter::getStringWithUnits;
 
     /// "%4.2lf" and the label, "cm/s" at first.
     operator ZString() override;

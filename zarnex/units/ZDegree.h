@@ -9,6 +9,8 @@
 /// Text is read as for ZRealNumber. The label is process-wide and unguarded.
 class ZARNEX_API ZDegree {
 public:
+    using Quantity = ZDegree;
+
     ZDegree(double degrees = 0.0);
     ZDegree(const ZString& text);
 

@@ -46,6 +46,17 @@ ZEmbPoint::ZEmbPoint(const ZSpi& density) : ZEmbPoint() {
     *this = density;
 }
 
+ZEmbPoint& ZEmbPoint::operator=(double value) {
+    value_ = value;
+    valid_ = 1;
+    return *this;
+}
+
+ZEmbPoint& ZEmbPoint::operator=(const ZString& text) {
+    setStringWithUnits(text, unitNumber);
+    return *this;
+}
+
 ZEmbPoint& ZEmbPoint::operator=(const ZMillimeter& length) {
     value_ = convertAssigned(Target::embPoint, length, unitMillimeter);
     valid_ = length.isValid();

@@ -19,12 +19,18 @@ class ZSpi;
 ///     ZEmbPoint length(ZString("1 inch")); // 254.0, "254.0 pt"
 class ZARNEX_API ZEmbPoint {
 public:
+    using Quantity = ZEmbPoint;
+
     ZEmbPoint(double points = 0.0);
     ZEmbPoint(const ZString& text);
     ZEmbPoint(const ZEmbPoint& other) = default;
     ZEmbPoint& operator=(const ZEmbPoint& other) = default;
 
     virtual ~ZEmbPoint();
+
+    /// As the constructors from a number and from text.
+    ZEmbPoint& operator=(double value);
+    ZEmbPoint& operator=(const ZString& text);
 
     /// Convert and take the validity flag over.
     explicit ZEmbPoint(const ZMillimeter& length);

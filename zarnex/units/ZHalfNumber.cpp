@@ -13,8 +13,10 @@ namespace {
 double roundedToHalves(double number) {
     const double magnitude = std::fabs(number);
     const double whole = std::trunc(magnitude);
-    if (magnitude == whole || std::isnan(number))
+    if (std::isnan(number))
         return number;
+    if (magnitude == whole)
+        return number < 0 ? -whole : whole;
     const double fraction = magnitude - whole;
     const double rounded = fraction < 0.25 ? whole : fraction < 0.75 ? whole + 0.5 : whole + 1.0;
     return number < 0 ? -rounded : rounded;

@@ -10,6 +10,8 @@
 /// Text is read as for ZRealNumber and then rounded.
 class ZARNEX_API ZHalfNumber {
 public:
+    using Quantity = ZHalfNumber;
+
     ZHalfNumber(double number = 0.0);
     ZHalfNumber(const ZString& text);
 

@@ -37,6 +37,17 @@ ZInch::ZInch(const ZSpi& density) : ZInch() {
     *this = density;
 }
 
+ZInch& ZInch::operator=(double value) {
+    value_ = value;
+    valid_ = 1;
+    return *this;
+}
+
+ZInch& ZInch::operator=(const ZString& text) {
+    setStringWithUnits(text, unitNumber);
+    return *this;
+}
+
 ZInch& ZInch::operator=(const ZMillimeter& length) {
     value_ = convertAssigned(Target::inch, length, unitMillimeter);
     valid_ = length.isValid();

@@ -19,12 +19,18 @@ class ZSpi;
 ///     ZInch wrong(ZString("1 in extra")); // 1.0, invalid
 class ZARNEX_API ZInch {
 public:
+    using Quantity = ZInch;
+
     ZInch(double inches = 0.0);
     ZInch(const ZString& text);
     ZInch(const ZInch& other) = default;
     ZInch& operator=(const ZInch& other) = default;
 
     virtual ~ZInch();
+
+    /// As the constructors from a number and from text.
+    ZInch& operator=(double value);
+    ZInch& operator=(const ZString& text);
 
     /// Convert and take the validity flag over. A density becomes its stitch
     /// length, a density of exactly 0.0 the length 0.0.

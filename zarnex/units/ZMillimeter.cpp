@@ -39,6 +39,17 @@ ZMillimeter::ZMillimeter(const ZSpi& density) : ZMillimeter() {
     *this = density;
 }
 
+ZMillimeter& ZMillimeter::operator=(double value) {
+    value_ = value;
+    valid_ = 1;
+    return *this;
+}
+
+ZMillimeter& ZMillimeter::operator=(const ZString& text) {
+    setStringWithUnits(text, unitNumber);
+    return *this;
+}
+
 ZMillimeter& ZMillimeter::operator=(const ZCentimeter& length) {
     value_ = convertAssigned(Target::millimeter, length, unitCentimeter);
     valid_ = length.isValid();

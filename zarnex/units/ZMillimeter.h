@@ -13,10 +13,15 @@ class ZSpi;
 ///
 /// Numbers of any sign, infinities and NaN are stored unchanged and are valid.
 /// Text is a number and an optional unit word (ZUnitScanner lists them); a bare
-/// number, or one whose unit is refused, counts in millimetres. Text that begins
-/// with no number gives 0.0 and isValid() == 0; a word behind the unit keeps the
-/// value and is invalid all the same. Nothing throws. Reading text holds the
-/// scanner lock; the label is process-wide and unguarded.
+/// number, or one whose unit is refused, counts in millimetres. Characters that
+/// belong to no token are dropped. Text whose first token is no number gives 0.0 and
+/// isValid() == 0; a word behind the unit keeps the value and is invalid all the
+/// same. Nothing throws. Reading text holds the scanner lock; the label is
+/// process-wide and unguarded.
+///
+/// Kept as is: a lone sign counts as a number and has the value of the latest number
+/// that the process read, and text with a token of 100 characters ends the process,
+/// although everything else that cannot be read is merely invalid.
 ///
 ///     ZMillimeter length(ZString("1 inch"));
 ///     double(length)            // 25.4
@@ -24,10 +29,16 @@ class ZSpi;
 ///     length.getStringWithUnits(5)  // "254.0 pt"
 class ZARNEX_API ZMillimeter {
 public:
+    using Quantity = ZMillimeter;
+
     ZMillimeter(double millimeters = 0.0);
     ZMillimeter(const ZString& text);
     ZMillimeter(const ZMillimeter& other) = default;
     ZMillimeter& operator=(const ZMillimeter& other) = default;
+
+    /// As the constructors from a number and from text.
+    ZMillimeter& operator=(double value);
+    ZMillimeter& operator=(const ZString& text);
 
     /// Convert and take the validity flag over. A density becomes its stitch
     /// length, a density of exactly 0.0 the length 0.0.

@@ -37,6 +37,17 @@ ZMillimeterPerSec::ZMillimeterPerSec(const ZSpi& density) : ZMillimeterPerSec() 
     *this = density;
 }
 
+ZMillimeterPerSec& ZMillimeterPerSec::operator=(double value) {
+    value_ = value;
+    valid_ = 1;
+    return *this;
+}
+
+ZMillimeterPerSec& ZMillimeterPerSec::operator=(const ZString& text) {
+    setStringWithUnits(text, unitNumber);
+    return *this;
+}
+
 ZMillimeterPerSec& ZMillimeterPerSec::operator=(const ZCentimeter& length) {
     value_ = convertAssigned(Target::millimeter, length, unitCentimeter);
     valid_ = length.isValid();

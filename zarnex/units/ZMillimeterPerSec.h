@@ -20,10 +20,16 @@ class ZSpi;
 /// ZCentimeterPerSec converts them and so does assignment.
 class ZARNEX_API ZMillimeterPerSec {
 public:
+    using Quantity = ZMillimeterPerSec;
+
     ZMillimeterPerSec(double millimetersPerSec = 0.0);
     ZMillimeterPerSec(const ZString& text);
     ZMillimeterPerSec(const ZMillimeterPerSec& other) = default;
     ZMillimeterPerSec& operator=(const ZMillimeterPerSec& other) = default;
+
+    /// As the constructors from a number and from text.
+    ZMillimeterPerSec& operator=(double value);
+    ZMillimeterPerSec& operator=(const ZString& text);
 
     /// The length per second, with its validity flag; a density counts as its
     /// stitch length, a density of exactly 0.0 as 0.0.

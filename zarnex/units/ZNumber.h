@@ -11,6 +11,8 @@
 /// sign, what follows is ignored: "12.7 mm" is 12, "abc" is 0.
 class ZARNEX_API ZNumber {
 public:
+    using Quantity = ZNumber;
+
     ZNumber(double number = 0.0);
     ZNumber(const ZString& text);
 

@@ -10,6 +10,8 @@
 /// Text is read as for ZRealNumber; no number is 0.0.
 class ZARNEX_API ZPercent {
 public:
+    using Quantity = ZPercent;
+
     ZPercent(double percent = 100.0);
     ZPercent(const ZString& text);
 

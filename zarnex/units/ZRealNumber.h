@@ -10,6 +10,8 @@
 /// (also "1e3", "0x10", "inf"), what follows is ignored; no number is 0.0.
 class ZARNEX_API ZRealNumber {
 public:
+    using Quantity = ZRealNumber;
+
     ZRealNumber(double number = 0.0);
     ZRealNumber(const ZString& text);
 

@@ -41,6 +41,17 @@ ZSpi::ZSpi(const ZEmbPoint& length) : ZSpi() {
     *this = length;
 }
 
+ZSpi& ZSpi::operator=(double value) {
+    value_ = value;
+    valid_ = 1;
+    return *this;
+}
+
+ZSpi& ZSpi::operator=(const ZString& text) {
+    setStringWithUnits(text, unitNumber);
+    return *this;
+}
+
 ZSpi& ZSpi::operator=(const ZMillimeter& length) {
     value_ = convertAssigned(Target::spi, length, unitMillimeter);
     valid_ = length.isValid();

@@ -24,12 +24,18 @@ class ZMillimeterPerSec;
 /// length is refused and the bare number is not.
 class ZARNEX_API ZSpi {
 public:
+    using Quantity = ZSpi;
+
     ZSpi(double stitchesPerInch = 0.0);
     ZSpi(const ZString& text);
     ZSpi(const ZSpi& other) = default;
     ZSpi& operator=(const ZSpi& other) = default;
 
     virtual ~ZSpi();
+
+    /// As the constructors from a number and from text.
+    ZSpi& operator=(double value);
+    ZSpi& operator=(const ZString& text);
 
     /// The density of a stitch length, with its validity flag; 0.0 for a length of
     /// zero (of points, for one that equals 0.0 by their own rule). A speed counts

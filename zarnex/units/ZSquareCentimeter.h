@@ -14,6 +14,8 @@
 ///     ZSquareCentimeter beads(ZString("40 per sq cm")); // "40.0 per sq cm"
 class ZARNEX_API ZSquareCentimeter {
 public:
+    using Quantity = ZSquareCentimeter;
+
     ZSquareCentimeter(double squareCentimeters = 0.0);
     ZSquareCentimeter(const ZString& text);
     ZSquareCentimeter(const ZSquareCentimeter& other) = default;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <type_traits>
-#include <utility>
 
 /// Comparison of quantities with plain numbers, such as `width == 2.5` and
 /// `width < 3`.
@@ -13,42 +12,45 @@
 
 namespace zarnex::detail {
 
-template <class Quantity, class = void>
-struct IsQuantity : std::false_type {};
-
-template <class Quantity>
-struct IsQuantity<Quantity, std::void_t<decltype(std::declval<const Quantity&>().getUnitId()),
-                                        decltype(double(std::declval<const Quantity&>()))>>
-    : std::true_type {};
-
-template <class Quantity, class Number>
+// Every quantity class names itself in a nested type `Quantity`, which classes that
+// are derived from it inherit.
+template <class Class, class Number>
 using IfQuantityAndNumber =
-    std::enable_if_t<IsQuantity<Quantity>::value && std::is_arithmetic_v<Number>, int>;
+    std::enable_if_t<std::is_same_v<decltype(typename Class::Quantity(0.0).isValid()), int> &&
+                         std::is_arithmetic_v<Number>,
+                     int>;
 
 } // namespace zarnex::detail
 
-template <class Quantity, class Number, zarnex::detail::IfQuantityAndNumber<Quantity, Number> = 0>
-int operator==(const Quantity& quantity, Number number) {
+template <class Class, class Number, zarnex::detail::IfQuantityAndNumber<Class, Number> = 0>
+int operator==(const Class& object, Number number) {
+    using Quantity = typename Class::Quantity;
+    const Quantity& quantity = object;
     const Quantity other(static_cast<double>(number));
     return double(other) == static_cast<double>(number) && quantity == other;
 }
 
-template <class Quantity, class Number, zarnex::detail::IfQuantityAndNumber<Quantity, Number> = 0>
-int operator==(Number number, const Quantity& quantity) {
-    return quantity == number;
+template <class Class, class Number, zarnex::detail::IfQuantityAndNumber<Class, Number> = 0>
+int operator==(Number number, const Class& object) {
+    return object == number;
 }
 
-template <class Quantity, class Number, zarnex::detail::IfQuantityAndNumber<Quantity, Number> = 0>
-int operator!=(const Quantity& quantity, Number number) {
-    return !(quantity == number);
+template <class Class, class Number, zarnex::detail::IfQuantityAndNumber<Class, Number> = 0>
+int operator!=(const Class& object, Number number) {
+    return !(object == number);
 }
 
-template <class Quantity, class Number, zarnex::detail::IfQuantityAndNumber<Quantity, Number> = 0>
-int operator!=(Number number, const Quantity& quantity) {
-    return !(quantity == number);
+template <class Class, class Number, zarnex::detail::IfQuantityAndNumber<Class, Number> = 0>
+int operator!=(Number number, const Class& object) {
+    return !(object == number);
 }
 
-template <class Quantity, class Number, zarnex::detail::IfQuantityAndNumber<Quantity, Number> = 0>
-int operator<(const Quantity& quantity, Number number) {
-    return double(quantity) < static_cast<double>(number);
+template <class Class, class Number, zarnex::detail::IfQuantityAndNumber<Class, Number> = 0>
+int operator<(const Class& object, Number number) {
+    return double(object) < static_cast<double>(number);
+}
+
+template <class Class, class Number, zarnex::detail::IfQuantityAndNumber<Class, Number> = 0>
+int operator>(const Class& object, Number number) {
+    return double(object) > static_cast<double>(number);
 }

@@ -14,6 +14,14 @@ bool isDigit(wchar_t unit) {
     return unit >= L'0' && unit <= L'9';
 }
 
+wchar_t lowerAscii(wchar_t unit) {
+    return unit >= L'A' && unit <= L'Z' ? static_cast<wchar_t>(unit | 0x20) : unit;
+}
+
+bool isHexDigit(wchar_t unit) {
+    return isDigit(unit) || (lowerAscii(unit) >= L'a' && lowerAscii(unit) <= L'f');
+}
+
 const wchar_t* skipSpace(const wchar_t* text) {
     while (*text == L' ' || (*text >= L'\t' && *text <= L'\r'))
         ++text;
@@ -27,49 +35,87 @@ bool skipSign(const wchar_t*& text) {
     return negative;
 }
 
-// The characters that a number can be made of, as bytes.
-void copyNumber(TextBuffer<char>& out, const wchar_t* text) {
-    const auto belongs = [](wchar_t unit) {
-        const wchar_t lower = unit | 0x20;
-        return isDigit(unit) || (lower >= L'a' && lower <= L'z') || unit == L'.' || unit == L'+' ||
-               unit == L'-' || unit == L'(' || unit == L')' || unit == L'_';
-    };
-    for (; belongs(*text); ++text)
-        out.append(static_cast<char>(*text));
+bool beginsWith(const wchar_t* text, const char* word) {
+    while (*word != '\0' && lowerAscii(*text) == static_cast<wchar_t>(*word)) {
+        ++text;
+        ++word;
+    }
+    return *word == '\0';
 }
 
-// Whether a number out of the range of double is too large rather than too
-// small: the decimal (hexadecimal) place of its first digit that is not zero,
-// moved by the exponent.
-bool isTooLarge(const char* begin, const char* end, bool hex) {
-    const char mark = hex ? 'p' : 'e';
+// The text of a number as bytes, and the place of its first digit that is not
+// zero: 1 for the last one before the point, 0 and below behind the point.
+struct NumberText {
+    TextBuffer<char> chars;
+    bool hex = false;
     long long place = 0;
-    bool significant = false;
-    bool decimals = false;
-    const char* next = begin;
-    for (; next != end && (*next | 0x20) != mark; ++next) {
-        if (*next == '.') {
-            decimals = true;
-            continue;
-        }
-        significant = significant || *next != '0';
-        if (significant && !decimals)
-            ++place;
-        else if (!significant && decimals)
-            --place;
-    }
-    if (hex)
-        place *= 4;
     long long exponent = 0;
-    if (next != end) {
-        ++next;
-        const bool negative = *next == '-';
-        if (*next == '+')
-            ++next;
-        if (std::from_chars(next, end, exponent).ec != std::errc{})
-            exponent = negative ? INT_MIN : INT_MAX;
+};
+
+bool readDigits(const wchar_t*& text, NumberText& number, bool decimals, bool& significant) {
+    const wchar_t* const begin = text;
+    for (; number.hex ? isHexDigit(*text) : isDigit(*text); ++text) {
+        number.chars.append(static_cast<char>(*text));
+        significant = significant || *text != L'0';
+        if (significant != decimals)
+            number.place += decimals ? -1 : 1;
     }
-    return place + exponent > 0;
+    return text != begin;
+}
+
+void readExponent(const wchar_t* text, NumberText& number) {
+    const wchar_t mark = number.hex ? L'p' : L'e';
+    if (lowerAscii(*text) != mark)
+        return;
+    ++text;
+    const bool negative = skipSign(text);
+    if (!isDigit(*text))
+        return;
+    number.chars.append(static_cast<char>(mark));
+    if (negative)
+        number.chars.append('-');
+    for (; isDigit(*text); ++text) {
+        number.chars.append(static_cast<char>(*text));
+        number.exponent = (std::min)(10 * number.exponent + (*text - L'0'), LLONG_MAX / 20);
+    }
+    if (negative)
+        number.exponent = -number.exponent;
+}
+
+// Reads a number without sign; false if there is none.
+bool readMagnitude(const wchar_t* text, double& value) {
+    if (beginsWith(text, "inf")) {
+        value = std::numeric_limits<double>::infinity();
+        return true;
+    }
+    if (beginsWith(text, "nan")) {
+        value = std::numeric_limits<double>::quiet_NaN();
+        return true;
+    }
+    NumberText number;
+    number.hex =
+        beginsWith(text, "0x") && (isHexDigit(text[2]) || (text[2] == L'.' && isHexDigit(text[3])));
+    if (number.hex)
+        text += 2;
+    bool significant = false;
+    bool found = readDigits(text, number, false, significant);
+    if (*text == L'.') {
+        number.chars.append('.');
+        ++text;
+        found = readDigits(text, number, true, significant) || found;
+    }
+    if (!found)
+        return false;
+    readExponent(text, number);
+
+    const char* const begin = number.chars.data();
+    const auto format = number.hex ? std::chars_format::hex : std::chars_format::general;
+    const auto read = std::from_chars(begin, begin + number.chars.length(), value, format);
+    if (read.ec == std::errc::result_out_of_range) {
+        const bool isTooLarge = number.exponent > -number.place * (number.hex ? 4 : 1);
+        value = isTooLarge ? std::numeric_limits<double>::infinity() : 0.0;
+    }
+    return true;
 }
 
 } // namespace
@@ -77,27 +123,10 @@ bool isTooLarge(const char* begin, const char* end, bool hex) {
 double readDouble(const wchar_t* text) {
     text = skipSpace(text);
     const bool negative = skipSign(text);
-    if (*text == L'+' || *text == L'-')
+    double magnitude = 0.0;
+    if (!readMagnitude(text, magnitude))
         return 0.0;
-    TextBuffer<char> number;
-    copyNumber(number, text);
-    const char* begin = number.data();
-    const char* const end = begin + number.length();
-
-    double value = 0.0;
-    std::from_chars_result read{begin, std::errc::invalid_argument};
-    const bool hex = number.length() > 2 && begin[0] == '0' && (begin[1] | 0x20) == 'x';
-    if (hex) {
-        begin += 2;
-        read = *begin == '-' ? read : std::from_chars(begin, end, value, std::chars_format::hex);
-    } else {
-        read = std::from_chars(begin, end, value);
-    }
-    if (read.ec == std::errc::result_out_of_range)
-        value = isTooLarge(begin, read.ptr, hex) ? std::numeric_limits<double>::infinity() : 0.0;
-    else if (read.ec != std::errc{})
-        value = 0.0;
-    return negative ? -value : value;
+    return negative ? -magnitude : magnitude;
 }
 
 int readInt(const wchar_t* text) {

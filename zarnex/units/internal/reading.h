@@ -12,7 +12,7 @@ namespace zarnex::detail {
 /// callable (double, int unit) -> int that stores the value and its validity and
 /// answers 0 if it refuses the unit.
 ///
-/// - No number at the start: 0.0 and invalid.
+/// - A first token that is no number: 0.0 and invalid.
 /// - A unit that is taken: valid, unless another token or a dropped word behind
 ///   white space follows.
 /// - A missing or refused unit: the number counts in `preferredUnit`, and if that
