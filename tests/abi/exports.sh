@@ -61,10 +61,12 @@ compare() {
 
 # Names of std::, the compiler's runtime, unnamed namespaces and the library's own inside.
 # The patterns read what stands before the first name: S followed by a small letter is std::
-# or one of the short forms for its classes.
+# or one of the short forms for its classes. A DLL may hold type information of the inside:
+# mingw's compiler exports that of every class derived from an exported one.
 internal() {
     local names inside
     names=$(mangled "$1")
+    [[ $1 != *.dll ]] || names=$(grep -v '^_ZT[IS]' <<<"$names")
     inside=$(grep -E -e '^_Z(T[A-Za-z]|GVZ?|GR|Z)*(N[KVRO]*)?S[a-z]' \
         -e '^_Z(T[A-Za-z]|GVZ?|GR|Z)*N[KVRO]*(9__gnu_cxx|10__cxxabiv1|12_GLOBAL__N_1)' \
         -e '^_Z(T[A-Za-z]|GVZ?|GR|Z)*N[KVRO]*6zarnex(6detail|8platform|12_GLOBAL__N_1)' \
