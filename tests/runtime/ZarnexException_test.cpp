@@ -1,10 +1,15 @@
+#include "tests/slots.h"
+
 #include <zarnex/runtime/ZarnexException.h>
 #include <zarnex/runtime/exiting.h>
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <cstdint>
 #include <cstdlib>
-#include <memory>
+#include <cstring>
+#include <string>
 
 namespace {
 
@@ -84,6 +89,26 @@ TEST(ZarnexException, CrossesTheLibraryBoundaryAsStandardException) {
     } catch (const std::exception& caught) {
         EXPECT_STREQ(caught.what(), "bad");
     }
+}
+
+TEST(ZarnexException, FieldsAndSlotsStandInTheirOrder) {
+    struct Fields {
+        const void* table;
+        void* source;
+        std::string message;
+        std::int32_t code;
+    };
+    static_assert(sizeof(Fields) == sizeof(ZarnexException));
+    const ZarnexException exception("bad", 5, &source);
+    const char* const start = reinterpret_cast<const char*>(&exception);
+    EXPECT_EQ(std::memcmp(start + offsetof(Fields, code), "\5\0\0\0", 4), 0);
+    void* held;
+    std::memcpy(&held, start + offsetof(Fields, source), sizeof held);
+    EXPECT_EQ(held, &source);
+    EXPECT_EQ(slotOf(&ZarnexException::what), 2);
+    EXPECT_EQ(slotOf(&ZarnexException::type), 3);
+    EXPECT_EQ(slotOf(&ZarnexException::errCode), 4);
+    EXPECT_EQ(slotOf(&ZarnexException::sourceObject), 5);
 }
 
 TEST(ExitFlag, GoesToOneAndStays) {

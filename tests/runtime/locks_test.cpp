@@ -61,6 +61,13 @@ TEST(MiniGuard, CopyingTakesNoLockButReleasesOne) {
     EXPECT_TRUE(contender.passes(amply));
 }
 
+TEST(Locks, HoldNothingButTheirMember) {
+    EXPECT_EQ(sizeof(MiniLock), sizeof(void*) + 40);
+    EXPECT_EQ(sizeof(MiniGuard), 2 * sizeof(void*));
+    EXPECT_EQ(sizeof(ZRefCount), 2 * sizeof(void*));
+    EXPECT_FALSE(std::is_polymorphic_v<ZRefCount>);
+}
+
 TEST(ZRefCount, CountsUpDownAndWraps) {
     int shared = 0;
     ZRefCount count(&shared);

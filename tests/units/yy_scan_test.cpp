@@ -1,3 +1,5 @@
+#include "tests/slots.h"
+
 #include <zarnex/units/ZUnitScanner.h>
 #include <zarnex/units/internal/automaton.h>
 #include <zarnex/units/yy_scan.h>
@@ -175,15 +177,6 @@ public:
         }
     }
 };
-
-// The place of a virtual function in the table, from a pointer to it.
-template <class Function>
-std::ptrdiff_t slotOf(Function function) {
-    std::ptrdiff_t words[2];
-    static_assert(sizeof(words) == sizeof(function));
-    std::memcpy(words, &function, sizeof(words));
-    return (words[0] - 1) / static_cast<std::ptrdiff_t>(sizeof(void*));
-}
 
 TEST(ScannerLayout, MembersAndSlotsKeepTheirOrder) {
     const Layout layout;

@@ -380,3 +380,5 @@ std::ostream& operator<<(std::ostream& out, const ZString& text) {
 }
 
 template class ZXArray<ZString>;
+template class ZList<ZString>;
+template class ZList<std::pair<ZString, ZString>>;

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <zarnex/config.h>
+#include <zarnex/containers/ZList.h>
 #include <zarnex/containers/ZXArray.h>
 
 #include <cstddef>
 #include <iosfwd>
 #include <type_traits>
+#include <utility>
 
 /// A wide-character string with value semantics: the text type of every
 /// interface of the library.
@@ -141,6 +143,28 @@ public:
     ZString operator+(Number number) const {
         ZString sum(*this);
         sum += number;
+        return sum;
+    }
+
+    /// The same for an object that converts to a string, such as a quantity: its
+    /// text.
+    template <class Object,
+              std::enable_if_t<std::is_class_v<std::remove_reference_t<Object>> &&
+                                   !std::is_base_of_v<ZString, std::decay_t<Object>> &&
+                                   std::is_convertible_v<Object, ZString>,
+                               int> = 0>
+    ZString& operator+=(Object&& object) {
+        const ZString text = std::forward<Object>(object);
+        return *this += text;
+    }
+    template <class Object,
+              std::enable_if_t<std::is_class_v<std::remove_reference_t<Object>> &&
+                                   !std::is_base_of_v<ZString, std::decay_t<Object>> &&
+                                   std::is_convertible_v<Object, ZString>,
+                               int> = 0>
+    ZString operator+(Object&& object) const {
+        ZString sum(*this);
+        sum += std::forward<Object>(object);
         return sum;
     }
 
@@ -284,3 +308,5 @@ ZARNEX_API int operator!=(const wchar_t* a, const ZString& b);
 ZARNEX_API std::ostream& operator<<(std::ostream& out, const ZString& text);
 
 extern template class ZARNEX_API ZXArray<ZString>;
+extern template class ZARNEX_API ZList<ZString>;
+extern template class ZARNEX_API ZList<std::pair<ZString, ZString>>;

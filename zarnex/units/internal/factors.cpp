@@ -8,10 +8,10 @@ namespace {
 
 enum class Rule : unsigned char {
     refuse,
-    times,        // value * factor
-    by,           // value / factor
-    intoDensity,  // factor / value, the value a length: not below zero
-    intoLength,   // factor / value, the value a density: above zero
+    times,       // value * factor
+    by,          // value / factor
+    intoDensity, // factor / value, the value a length: not below zero
+    intoLength,  // factor / value, the value a density: above zero
 };
 
 struct Conversion {
@@ -37,7 +37,7 @@ constexpr Conversion intoLength(double factor) {
 constexpr int columns = 6;
 
 constexpr Conversion table[][columns] = {
-    // from mm, mm/s      cm, cm/s           inch               point               spi                sq cm
+    // from mm, mm/s      cm, cm/s           inch               point               spi sq cm
     /* mm    */ {same, times(10.0), times(25.4), by(10.0), intoLength(25.4), no},
     /* cm    */ {by(10.0), same, times(2.54), by(100.0), intoLength(2.54), no},
     /* inch  */ {by(25.4), by(2.54), same, by(254.0), intoLength(1.0), no},

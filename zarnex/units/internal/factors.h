@@ -16,13 +16,21 @@ enum class Target {
     squareCentimeter,
 };
 
-/// `value` in `unit`, expressed in the unit of `target`.
-///
-/// Speeds count as their lengths: unit 14 is unit 2 and unit 12 is unit 3. Returns
-/// 1 and sets `result`; returns 0 and leaves it where the target refuses the unit,
-/// a density that is no positive number, or (for stitches per inch) a negative
-/// length.
+/// Converts into `result` and returns 1, or returns 0 and leaves it.
 int convertTo(Target target, double value, int unit, double& result);
+
+/// What the setValue() of each class does: converts `value` from `unit` into
+/// `stored`, sets `valid` and returns 1.
+///
+/// Where the target refuses the unit, a density that is no positive number, or (for
+/// stitches per inch) a negative length, `stored` becomes 0.0, `valid` 0, and 0 is
+/// returned. Speeds count as their lengths: unit 14 is unit 2 and unit 12 is unit 3.
+template <class Flag>
+int setConverted(Target target, double value, int unit, double& stored, Flag& valid) {
+    stored = 0.0;
+    valid = convertTo(target, value, unit, stored) != 0;
+    return valid;
+}
 
 /// The same for assignment between quantities, which refuses nothing: a zero on
 /// the far side of a reciprocal gives 0.0.

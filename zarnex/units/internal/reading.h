@@ -36,12 +36,4 @@ void readQuantity(const ZString& text, int preferredUnit, int ownUnit, double& v
     }
 }
 
-/// What most setValue() do: converts, or holds 0.0 and is invalid.
-template <class Flag>
-int setConverted(int converted, double result, double& value, Flag& valid) {
-    value = converted != 0 ? result : 0.0;
-    valid = converted != 0;
-    return converted;
-}
-
 } // namespace zarnex::detail

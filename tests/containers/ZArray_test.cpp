@@ -1,0 +1,229 @@
+#include "tests/slots.h"
+
+#include <zarnex/containers/ZArray.h>
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cstdint>
+#include <cstring>
+#include <new>
+#include <random>
+#include <vector>
+
+namespace {
+
+bool heapIsFull = false; // for arrays that ask without exceptions
+
+} // namespace
+
+void* operator new[](std::size_t bytes, const std::nothrow_t&) noexcept {
+    return heapIsFull ? nullptr : ::operator new[](bytes);
+}
+
+namespace {
+
+using Floats = ZArray<float>;
+
+struct Fields {
+    void* table;
+    unsigned char* block;
+    float* cache;
+    std::uint32_t blockBytes, cacheLength, limit, cacheStart, growBytes;
+};
+static_assert(sizeof(Fields) == sizeof(Floats));
+
+Fields fieldsOf(const Floats& array) {
+    Fields fields;
+    std::memcpy(&fields, static_cast<const void*>(&array), sizeof fields);
+    return fields;
+}
+
+std::vector<float> firstOf(const Floats& array, long count) {
+    return std::vector<float>(&array[0], &array[0] + count);
+}
+
+Floats& fill(Floats& array, int count) {
+    for (int i = 0; i < count; ++i)
+        array[i] = static_cast<float>(i);
+    return array;
+}
+
+TEST(ZArray, FieldsAndSlotsStandInTheirOrder) {
+    Floats array(100, 20);
+    const Fields fields = fieldsOf(array);
+    EXPECT_EQ(fields.block, reinterpret_cast<unsigned char*>(&array[0]));
+    EXPECT_EQ(fields.blockBytes, 800u);
+    EXPECT_EQ(fields.cacheLength, 100u);
+    EXPECT_EQ(fields.limit, 120u);
+    EXPECT_EQ(array.size(), 120u);
+    EXPECT_EQ(fields.cacheStart, 0u);
+    EXPECT_EQ(fields.growBytes, 400u);
+    EXPECT_EQ(fields.cache[99], 0.0f);
+
+    EXPECT_EQ(slotOf(&Floats::insert), 0);
+    EXPECT_EQ(slotOf(static_cast<float& (Floats::*)(int)>(&Floats::remove)), 1);
+}
+
+TEST(ZArray, AccessKeepsOneGrowthStepInReserve) {
+    const struct {
+        unsigned int n;
+        long index;
+        std::uint32_t blockBytes;
+    } rows[] = {
+        {100, 98, 800},    {100, 99, 1200}, {100, 198, 1200}, {100, 199, 1600},
+        {100, 1000, 4800}, {1, 50, 212},    {0, 3, 24}, // no elements counts as one
+        {100, -7, 800},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::Message() << row.n << ", " << row.index);
+        Floats array(row.n, 0);
+        array[row.index] = 2.5f;
+        EXPECT_EQ(fieldsOf(array).blockBytes, row.blockBytes);
+        EXPECT_EQ(*(array + row.index), 2.5f);
+        EXPECT_EQ(&array[row.index], &array[0] + (row.index < 0 ? 0 : row.index));
+        EXPECT_EQ(array.reset(), 0);
+        EXPECT_EQ(fieldsOf(array).blockBytes, 8 * (row.n == 0 ? 1 : row.n));
+    }
+    struct Open : Floats {
+        using Floats::checkSize;
+        using Floats::Floats;
+    } array(100, 0);
+    EXPECT_EQ(array.checkSize(99), 0);
+    EXPECT_EQ(fieldsOf(array).blockBytes, 1200u);
+}
+
+TEST(ZArray, InsertShiftsTheWholeBlockAndGrowsItEachTime) {
+    Floats array(100, 0);
+    fill(array, 50);
+    EXPECT_EQ(array.insert(array[3], 1), 3.0f) << "its own element";
+    EXPECT_EQ(firstOf(array, 5), (std::vector<float>{0, 3, 1, 2, 3}));
+    EXPECT_EQ(fieldsOf(array).blockBytes, 1600u);
+    array.insert(9, INT_MIN);
+    EXPECT_EQ(firstOf(array, 5), (std::vector<float>{9, 0, 3, 1, 2}));
+    array.insert(8, 5000);
+    EXPECT_EQ(array[5000], 8.0f);
+    EXPECT_EQ(array[51], 49.0f);
+}
+
+TEST(ZArray, RemoveDropsTheElementBeforeTheIndex) {
+    const struct {
+        int index;
+        float returned;
+        std::vector<float> after;
+    } rows[] = {
+        {2, 3, {0, 2, 3, 4}},
+        {1, 2, {1, 2, 3, 4}},
+        {0, 1, {1, 2, 3, 4}},
+        {-3, 1, {1, 2, 3, 4}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.index);
+        Floats array(8, 0);
+        EXPECT_EQ(fill(array, 10).remove(row.index), row.returned);
+        EXPECT_EQ(firstOf(array, 4), row.after);
+    }
+    Floats array(8, 0);
+    fill(array, 10).remove(INT_MIN);
+    array.remove(2000); // past the block: nothing to move
+    EXPECT_EQ(array[0], 1.0f);
+}
+
+TEST(ZArray, MovesAndCopiesOverlappingRangesLikeAVector) {
+    std::mt19937 random(32);
+    std::vector<float> model;
+    Floats array(64, 0);
+    fill(array, 4000);
+    for (int i = 0; i < 4000; ++i)
+        model.push_back(static_cast<float>(i));
+    for (int step = 0; step < 200; ++step) {
+        SCOPED_TRACE(step);
+        const int to = static_cast<int>(random() % 1500) - 20;
+        const int from = static_cast<int>(random() % 1500) - 20;
+        const int count = static_cast<int>(random() % 1000);
+        const unsigned kb = 1 + random() % 2; // 256 or 512 elements a chunk
+        if (step % 2 == 0)
+            EXPECT_EQ(array.move(to, from, from + count, kb), 0);
+        else
+            EXPECT_EQ(array.copy(from, to, count, static_cast<int>(kb)), 0);
+        const std::vector<float> before = model;
+        for (int i = 0; i < count; ++i)
+            if (from + i >= 0 && to + i >= 0)
+                model[static_cast<std::size_t>(to + i)] =
+                    before[static_cast<std::size_t>(from + i)];
+        ASSERT_EQ(firstOf(array, 4000), model);
+    }
+}
+
+TEST(ZArray, TransfersGrowTheBlockOverBothEnds) {
+    Floats array(10, 0);
+    fill(array, 8).copy(0, 500, 8, 4);
+    EXPECT_GE(fieldsOf(array).blockBytes, 4u * 508);
+    EXPECT_EQ(array[507], 7.0f);
+    array.move(0, 900, 901, 4);
+    EXPECT_GE(fieldsOf(array).blockBytes, 4u * 901);
+}
+
+TEST(ZArray, WithoutRoomForAChunkNothingMoves) {
+    Floats array(10, 0);
+    fill(array, 8);
+    EXPECT_EQ(array.move(0, 3, 6, 0), -1);
+    EXPECT_EQ(array.copy(3, 0, 3, 0), -1);
+    EXPECT_EQ(array.copy(3, 0, 3, INT_MIN), -1);
+    EXPECT_EQ(firstOf(array, 4), (std::vector<float>{0, 1, 2, 3}));
+    EXPECT_EQ(fieldsOf(array).cache[1], 0.0f) << "a failed copy does not load the cache";
+    EXPECT_EQ(array.move(0, 6, 3, 0) + array.copy(3, 0, 0, 0) + array.copy(3, 0, -5, 0), 0)
+        << "empty ranges need no chunk";
+}
+
+TEST(ZArray, FreezeWritesTheCacheOverTheBlock) {
+    Floats array(4, 0);
+    fill(array, 10);
+    EXPECT_EQ(array.copy(8, 2, 1, 4), 0); // loads the cache: 0, 1, 8, 3
+    array[0] = 20;
+    array[4] = 24;
+    EXPECT_EQ(array.freeze(), 0);
+    EXPECT_EQ(firstOf(array, 5), (std::vector<float>{0, 1, 8, 3, 24})) << "the 20 is lost";
+    array[1] = 21;
+    EXPECT_EQ(array.freeze(), 0);
+    EXPECT_EQ(array.copy(0, 9, 1, 4), 0);
+    EXPECT_EQ(array.restore(), 0);
+    EXPECT_EQ(array[1], 21.0f) << "frozen, the block is all there is";
+    array[1] = 0;
+    array.freeze();
+    EXPECT_EQ(array[1], 21.0f);
+}
+
+TEST(ZArray, CopiesShareBlockAndCache) {
+    Floats array(4, 1);
+    alignas(Floats) unsigned char room[2][sizeof(Floats)]; // never destroyed
+    Floats& copy = *new (room[0]) Floats(array);
+    array[2] = 7;
+    EXPECT_EQ(copy[2], 7.0f);
+    EXPECT_EQ(fieldsOf(copy).cache, fieldsOf(array).cache);
+    EXPECT_EQ(copy.size(), 5u);
+    Floats& assigned = *new (room[1]) Floats(array);
+    assigned = copy;
+    EXPECT_EQ(&assigned[2], &array[2]);
+}
+
+TEST(ZArrayDeathTest, StorageThatCannotBeHadEndsTheProcess) {
+    const auto buildInFullHeap = [] {
+        heapIsFull = true;
+        const ZArray<double> array(10, 0);
+    };
+    const auto restoreInFullHeap = [] {
+        ZArray<double> array(10, 0);
+        array.freeze();
+        heapIsFull = true;
+        array.restore();
+    };
+    const auto buildTooLarge = [] { const Floats array(1u << 29, 0); };
+    const auto reachTooFar = [] { Floats(10, 0)[INT_MAX] = 1; };
+    EXPECT_EXIT(buildInFullHeap(), testing::ExitedWithCode(0), "^$");
+    EXPECT_EXIT(buildTooLarge(), testing::ExitedWithCode(0), "^$");
+    EXPECT_EXIT(reachTooFar(), testing::ExitedWithCode(0), "^$");
+    EXPECT_EXIT(restoreInFullHeap(), testing::ExitedWithCode(1), "failed alloc");
+}
+
+} // namespace

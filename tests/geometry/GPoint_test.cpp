@@ -1,0 +1,131 @@
+#if defined(_WIN32)
+#include <windows.h> // first, and with its min and max
+#endif
+#include <zarnex/foundation.h>
+
+#include "coordinates.h"
+
+#include <climits>
+#include <cmath>
+#include <memory>
+#include <new>
+
+// The private conversions. Access is not checked in an explicit instantiation; a
+// constructor has no address, so it is called by the name that the library exports.
+using ToPlatform = tagPOINT (GPoint::*)() const;
+ToPlatform toPlatform();
+template <ToPlatform member>
+struct Opened {
+    friend ToPlatform toPlatform() {
+        return member;
+    }
+};
+template struct Opened < &GPoint::operator tagPOINT>;
+extern "C" void constructFromPlatform(void* place, tagPOINT p) __asm__("_ZN6GPointC1E8tagPOINT");
+
+namespace {
+
+using Point = ZTPoint<double>;
+
+static_assert(sizeof(Point) == 24 && sizeof(GPoint) == 24);
+static_assert(std::has_virtual_destructor_v<Point>);
+
+TEST(ZTPoint, CoordinatesFollowTheTableOfVirtualFunctions) {
+    const Point p(1, 2);
+    const auto offsetOf = [&p](const double& field) {
+        return reinterpret_cast<const char*>(&field) - reinterpret_cast<const char*>(&p);
+    };
+    EXPECT_EQ(offsetOf(p.xVal()), 8);
+    EXPECT_EQ(offsetOf(p.yVal()), 16);
+}
+
+TEST(ZTPoint, ArithmeticIsByCoordinate) {
+    Point p(6, -8);
+    EXPECT_TRUE(at(Point(), 0, 0));
+    EXPECT_TRUE(at(Point(1.5), 1.5, 1.5));
+    EXPECT_TRUE(at(p + Point(1, 2), 7, -6));
+    EXPECT_TRUE(at(p - Point(1, 2), 5, -10));
+    EXPECT_TRUE(at(-p, -6, 8));
+    EXPECT_TRUE(at(p * Point(2, 3), 12, -24));
+    EXPECT_TRUE(at(p / Point(2, 4), 3, -2));
+    EXPECT_TRUE(at(p * 2, 12, -16));
+    EXPECT_TRUE(at(p / 2, 3, -4));
+    p += Point(1, 1);
+    EXPECT_TRUE(at(p, 7, -7));
+    p -= Point(2, 3);
+    EXPECT_TRUE(at(p, 5, -10));
+    p.xVal() = 1;
+    p.setY(2);
+    EXPECT_TRUE(at(p, 1, 2));
+    p.setX(3);
+    p.yVal() = 4;
+    EXPECT_TRUE(at(p, 3, 4));
+}
+
+TEST(ZTPoint, ComparesExactlyAndByDominance) {
+    EXPECT_TRUE(Point(1, 2) == Point(1, 2));
+    EXPECT_TRUE(Point(1, 2) != Point(1 + 1e-15, 2));
+    EXPECT_TRUE(Point(0, 2) != Point(0, 2 + 1e-15));
+    EXPECT_FALSE(Point(std::nan("")) == Point(std::nan("")));
+    const Point a(1, 1), right(2, 1), up(1, 2), both(2, 2);
+    EXPECT_TRUE(a < both && both > a && a <= right && right >= a && a <= up && up >= a);
+    EXPECT_FALSE(a < right || a < up || right > a || up > a);
+    EXPECT_FALSE(right <= up || right >= up || up <= right || up >= right);
+}
+
+TEST(GPoint, ConvertsBetweenThePointTypes) {
+    EXPECT_TRUE(at(GPoint(), 0, 0));
+    EXPECT_TRUE(at(GPoint(1.5), 1.5, 1.5));
+    EXPECT_TRUE(at(GPoint(DPoint(1, 2)), 1, 2));
+    EXPECT_TRUE(at(GPoint(Point(1, 2)), 1, 2));
+    const GPoint sum = GPoint(1, 2) + GPoint(3, 4);
+    const DPoint converted = sum;
+    EXPECT_TRUE(at(converted, 4, 6));
+    EXPECT_TRUE(sum == GPoint(4, 6));
+    EXPECT_TRUE(sum == Point(4, 6));
+    GPoint changed;
+    changed.set(7, 8);
+    EXPECT_EQ(changed.getX(), 7.0);
+    EXPECT_EQ(changed.getY(), 8.0);
+    changed.set(9, changed.x);
+    EXPECT_TRUE(at(changed, 9, 7));
+    changed.init();
+    EXPECT_TRUE(at(changed, 0, 0));
+}
+
+TEST(GPoint, PlatformPointsAreTruncated) {
+    const struct {
+        GPoint point;
+        long x, y;
+    } rows[] = {
+        {GPoint(2.9, -2.9), 2, -2},
+        {GPoint(1e10, -1e10), INT_MAX, INT_MIN},
+        {GPoint(std::nan(""), -0.5), 0, 0},
+    };
+    for (const auto& row : rows) {
+        const tagPOINT platform = (row.point.*toPlatform())();
+        EXPECT_EQ(platform.x, row.x);
+        EXPECT_EQ(platform.y, row.y);
+    }
+}
+
+TEST(GPoint, ComesFromPlatformPoints) {
+    tagPOINT platform;
+    platform.x = -3;
+    platform.y = INT_MAX;
+    alignas(GPoint) unsigned char place[sizeof(GPoint)];
+    constructFromPlatform(place, platform);
+    GPoint* const made = std::launder(reinterpret_cast<GPoint*>(place));
+    EXPECT_TRUE(at(*made, -3, INT_MAX));
+    std::destroy_at(made);
+}
+
+TEST(GPoint, ShowWritesToStandardOutput) {
+    testing::internal::CaptureStdout();
+    GPoint(1.5, -2).show();
+    std::string shown = testing::internal::GetCapturedStdout();
+    std::erase(shown, '\r');
+    EXPECT_EQ(shown, "( 1.5 , -2 )\n");
+}
+
+} // namespace

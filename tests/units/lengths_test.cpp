@@ -1,0 +1,372 @@
+#include "tests/slots.h"
+#include "tests/support.h"
+
+#include <zarnex/units/ZCentimeter.h>
+#include <zarnex/units/ZEmbPoint.h>
+#include <zarnex/units/ZInch.h>
+#include <zarnex/units/ZMillimeter.h>
+#include <zarnex/units/ZSpi.h>
+
+#include <cmath>
+#include <limits>
+#include <type_traits>
+
+namespace {
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+const double nan = std::nan("");
+
+template <class Quantity>
+struct Reading {
+    const wchar_t* text;
+    double value;
+    int valid;
+};
+
+template <class Quantity, std::size_t count>
+void checkReadings(const Reading<Quantity> (&rows)[count]) {
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::Message() << ZString(row.text));
+        const Quantity read{ZString(row.text)};
+        EXPECT_EQ(double(read), row.value);
+        EXPECT_EQ(read.isValid(), row.valid);
+    }
+}
+
+TEST(ZMillimeter, ReadsTypedText) {
+    checkReadings<ZMillimeter>({
+        {L"2.5", 2.5, 1},
+        {L"2.5 mm", 2.5, 1},
+        {L"1 CM", 10.0, 1},
+        {L"2 in", 2 * 25.4, 1},
+        {L"3\"", 3 * 25.4, 1},
+        {L"7 pt", 7 / 10.0, 1},
+        {L"3 spi", 25.4 / 3, 1},
+        {L"0 spi", 0.0, 1},       // refused, then the bare number
+        {L"-3 spi", -3.0, 1},     // likewise
+        {L"5 per sq cm", 5.0, 1}, // a unit that lengths refuse
+        {L"5 6 mm", 5.0, 1},      // a second number is no unit, the rest not looked at
+        {L"-2.5mm", -2.5, 1},
+        {L"mm", 0.0, 0},
+        {L"wide", 0.0, 0},
+        {L"", 0.0, 0},
+        {L"about 5 mm", 5.0, 1}, // what is in front is dropped
+    });
+}
+
+TEST(ZInch, ReadsTypedText) {
+    checkReadings<ZInch>({
+        {L"1.5", 1.5, 1},
+        {L"2.54 cm", 2.54 / 2.54, 1},
+        {L"25.4 mm", 1.0, 1},
+        {L"127 pt", 127 / 254.0, 1},
+        {L"4 spi", 0.25, 1},
+    });
+}
+
+TEST(ZCentimeter, ReadsTypedText) {
+    checkReadings<ZCentimeter>({
+        {L"1.5", 1.5, 1},
+        {L"25 mm", 2.5, 1},
+        {L"2 in", 2 * 2.54, 1},
+        {L"50 pt", 0.5, 1},
+        {L"2 spi", 2.54 / 2, 1},
+        {L"2 stitches per inch", 2.54 / 2, 1},
+    });
+}
+
+TEST(ZEmbPoint, ReadsTypedText) {
+    checkReadings<ZEmbPoint>({
+        {L"1.5", 1.5, 1},
+        {L"1 mm", 10.0, 1},
+        {L"1 cm", 100.0, 1},
+        {L"1 inch", 254.0, 1},
+        {L"2 spi", 127.0, 1},
+    });
+}
+
+TEST(ReadingQuantities, AWordBehindAnAcceptedUnitIsInvalidAndKeepsTheValue) {
+    checkReadings<ZInch>({
+        {L"1 in extra", 1.0, 0},
+        {L"1 in 2", 1.0, 0},
+        {L"1 in mm", 1.0, 0},
+        {L"1 in t", 1.0, 0},
+        {L"1 int t", 1.0, 0},
+        {L"1 in\rx", 1.0, 0},
+        {L"1 in/p", 1.0, 0}, // a further token, though it stands at the unit
+        {L"1 inch", 1.0, 1},
+        {L"1 int", 1.0, 1},        // what stands directly at the unit is dropped
+        {L"1 in  \t\r\n", 1.0, 1}, // white space is no word
+        {L"1 in\u00B0", 1.0, 1},
+        {L"1 extra", 1.0, 1}, // no unit: the rest is not looked at
+        {L"1 cm/s", 1 / 2.54, 1},
+        {L"10.00 mm/s", 10 / 25.4, 1},
+    });
+}
+
+TEST(ReadingQuantities, ANumberWithoutUnitCountsInThePreferredUnitIfThatIsTaken) {
+    const struct {
+        const wchar_t* text;
+        int preferred;
+        double millimeters;
+    } rows[] = {
+        {L"2", 4, 2 * 25.4}, // inch
+        {L"2", 6, 25.4 / 2}, // a density
+        {L"-2", 6, -2.0},    // refused: the own unit
+        {L"2", 12, 20.0},    // a speed counts as its length
+        {L"2", 15, 2.0},     // no length
+        {L"2", -1, 2.0},
+        {L"2 cm", 4, 20.0}, // the text's own unit is first
+        {L"2 per sq cm", 4, 2 * 25.4},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::Message() << ZString(row.text) << " " << row.preferred);
+        ZMillimeter length(nan);
+        length.setStringWithUnits(row.text, row.preferred);
+        EXPECT_EQ(double(length), row.millimeters);
+        EXPECT_TRUE(length.isValid());
+    }
+}
+
+TEST(Lengths, RenderWithTheirLabels) {
+    const struct {
+        double value;
+        const wchar_t *millimeter, *constMillimeter, *centimeter, *inch, *point;
+    } rows[] = {
+        {2.5, L" 2.5 mm", L" 2.5 mm", L" 2.5 cm", L"2.50 in", L"2.5 pt"},
+        {2.34, L"2.34 mm", L" 2.3 mm", L" 2.3 cm", L"2.34 in", L"2.3 pt"},
+        {1.999, L" 2.0 mm", L" 2.0 mm", L" 2.0 cm", L"2.00 in", L"2.0 pt"},
+        {-0.05, L"-0.05 mm", L"-0.1 mm", L"-0.1 cm", L"-0.05 in", L"-0.1 pt"},
+        {254.0, L"254.0 mm", L"254.0 mm", L"254.0 cm", L"254.00 in", L"254.0 pt"},
+        {infinity, L" inf mm", L" inf mm", L" inf cm", L" inf in", L"inf pt"},
+        {nan, L" nan mm", L" nan mm", L" nan cm", L" nan in", L"nan pt"},
+        {1e10, L"10000000000.00 mm", L"10000000000.0 mm", L"10000000000.0 cm", L"10000000000.00 in",
+         L"10000000000.0 pt"}, // the hundredths end at the largest int
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.value);
+        ZMillimeter millimeter(row.value);
+        const ZMillimeter constMillimeter(row.value);
+        EXPECT_EQ(wide(millimeter), row.millimeter);
+        EXPECT_EQ(wide(constMillimeter.getString()), row.millimeter);
+        EXPECT_EQ(wide(constMillimeter), row.constMillimeter);
+        EXPECT_EQ(wide(ZCentimeter(row.value)), row.centimeter);
+        EXPECT_EQ(wide(ZInch(row.value)), row.inch);
+        EXPECT_EQ(wide(ZEmbPoint(row.value)), row.point);
+    }
+    EXPECT_EQ(wide(ZMillimeter(2.5).getString(7, 3)), L"  2.500 mm");
+    EXPECT_EQ(wide(ZMillimeter(2.5).getDensityString(-6, 1)), L"2.5    mm");
+    EXPECT_EQ(wide(ZCentimeter(2.5).getString(1, 0)), L"2 cm");
+    EXPECT_EQ(wide(ZInch(2.5).getString(6, 1)), L"   2.5 in");
+    EXPECT_EQ(wide(ZEmbPoint(2.5).getString(6, 2)), L"  2.50 pt");
+}
+
+TEST(Lengths, LabelsAreTextAndNeverFormats) {
+    ZMillimeter::setUnitString(L"%s%n");
+    ZInch::setUnitString(L"\u2033");
+    ZCentimeter labelled(1.0);
+    labelled.setUnitString(L"%d");
+    const std::wstring millimeters = wide(ZMillimeter(1.0));
+    const std::wstring inches = wide(ZInch(1.0));
+    ZMillimeter::setUnitString(L"mm");
+    ZInch::setUnitString(L"in");
+    EXPECT_EQ(millimeters, L" 1.0 %s%n");
+    EXPECT_EQ(inches, L"1.00 \u2033");
+    EXPECT_EQ(wide(labelled), L" 1.0 %d");
+    EXPECT_EQ(wide(labelled.getStringWithUnits(0)), L" 1.0 %d");
+    EXPECT_EQ(wide(labelled.getStringWithUnits(3)), L" 1.0 cm") << "a fresh object";
+    const ZCentimeter copied(labelled);
+    ZCentimeter assigned(2.0);
+    assigned = labelled;
+    EXPECT_EQ(wide(copied), L" 1.0 %d");
+    EXPECT_EQ(wide(assigned), L" 1.0 cm") << "assignment leaves the label";
+}
+
+TEST(Lengths, RenderInOtherUnits) {
+    const struct {
+        int unit;
+        const wchar_t *millimeter, *centimeter, *inch, *point;
+    } rows[] = {
+        // of 25.4 mm, 2.54 cm, 1 inch and 254 points
+        {2, L"25.4 mm", L"25.4 mm", L"25.4 mm", L"25.4 mm"},
+        {3, L"25.4 mm", L" 2.5 cm", L"1.00 in", L"254.0 pt"},
+        {4, L"1.00 in", L"1.00 in", L"1.00 in", L"1.00 in"},
+        {5, L"254.0 pt", L"254.0 pt", L"254.0 pt", L"254.0 pt"},
+        {6, L"1.0 spi", L"1.0 spi", L"1.0 spi", L"1.0 spi"},
+        {7, L"25.4 mm", L" 2.5 cm", L"1.00 in", L"254.0 pt"},
+        {-1, L"25.4 mm", L" 2.5 cm", L"1.00 in", L"254.0 pt"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.unit);
+        ZMillimeter millimeter(25.4);
+        ZCentimeter centimeter(2.54);
+        ZInch inch(1.0);
+        ZEmbPoint point(254.0);
+        EXPECT_EQ(wide(millimeter.getStringWithUnits(row.unit)), row.millimeter);
+        EXPECT_EQ(wide(centimeter.getStringWithUnits(row.unit)), row.centimeter);
+        EXPECT_EQ(wide(inch.getStringWithUnits(row.unit)), row.inch);
+        EXPECT_EQ(wide(point.getStringWithUnits(row.unit)), row.point);
+        const bool two = row.unit == 2;
+        EXPECT_EQ(wide(millimeter.getDensityStringWithUnits(row.unit)),
+                  two ? L"25.40 mm" : row.millimeter);
+        EXPECT_EQ(wide(centimeter.getDensityStringWithUnits(row.unit)),
+                  two ? L"25.40 mm" : row.centimeter);
+        EXPECT_EQ(wide(inch.getDensityStringWithUnits(row.unit)), two ? L"25.40 mm" : row.inch);
+        EXPECT_EQ(wide(point.getDensityStringWithUnits(row.unit)), two ? L"25.40 mm" : row.point);
+    }
+}
+
+// Assigns `source` to a Target of 7.0 that is valid, and checks what comes out;
+// construction must do the same to a fresh one.
+template <class Target, class Source>
+void checkAssigned(const Source& source, double value) {
+    SCOPED_TRACE(testing::Message()
+                 << "unit " << source.getUnitId() << " to " << Target().getUnitId());
+    Target target(7.0);
+    target = source;
+    EXPECT_EQ(double(target), value);
+    EXPECT_EQ(target.isValid(), source.isValid());
+    EXPECT_EQ(double(Target(source)), value);
+}
+
+TEST(Lengths, ConvertAmongEachOtherByAssignment) {
+    const ZMillimeter millimeter(ZString(L"3 mm x")); // 3.0 and invalid: the flag comes along
+    const ZCentimeter centimeter(3.0);
+    const ZInch inch(3.0);
+    const ZEmbPoint point(3.0);
+    const ZSpi spi(3.0);
+    ASSERT_EQ(double(millimeter), 3.0);
+    ASSERT_FALSE(millimeter.isValid());
+    checkAssigned<ZMillimeter>(centimeter, 3 * 10.0);
+    checkAssigned<ZMillimeter>(inch, 3 * 25.4);
+    checkAssigned<ZMillimeter>(point, 3 / 10.0);
+    checkAssigned<ZMillimeter>(spi, 25.4 / 3);
+    checkAssigned<ZCentimeter>(millimeter, 3 / 10.0);
+    checkAssigned<ZCentimeter>(inch, 3 * 2.54);
+    checkAssigned<ZCentimeter>(point, 3 / 100.0);
+    checkAssigned<ZCentimeter>(spi, 2.54 / 3);
+    checkAssigned<ZInch>(millimeter, 3 / 25.4);
+    checkAssigned<ZInch>(centimeter, 3 / 2.54);
+    checkAssigned<ZInch>(point, 3 / 254.0);
+    checkAssigned<ZInch>(spi, 1.0 / 3);
+    checkAssigned<ZEmbPoint>(millimeter, 3 * 10.0);
+    checkAssigned<ZEmbPoint>(centimeter, 3 * 100.0);
+    checkAssigned<ZEmbPoint>(inch, 3 * 254.0);
+    checkAssigned<ZEmbPoint>(spi, 254.0 / 3);
+    checkAssigned<ZMillimeter>(ZSpi(-2.0), -12.7);
+}
+
+TEST(Lengths, ADensityOfZeroIsTheLengthZeroExceptInPoints) {
+    for (const ZSpi& zero : {ZSpi(0.0), ZSpi(-0.0)}) {
+        checkAssigned<ZMillimeter>(zero, 0.0);
+        checkAssigned<ZCentimeter>(zero, 0.0);
+        checkAssigned<ZInch>(zero, 0.0);
+    }
+    checkAssigned<ZMillimeter>(ZSpi(1e-10), 25.4 / 1e-10);
+    for (double nearZero : {0.0, 1e-9, -1e-9}) {
+        ZEmbPoint point(7.0);
+        point = ZSpi(nearZero);
+        EXPECT_EQ(double(point), 7.0);
+        EXPECT_FALSE(point.isValid());
+    }
+    checkAssigned<ZEmbPoint>(ZSpi(2e-9), 254.0 / 2e-9);
+}
+
+TEST(Lengths, CompareEachByTheirOwnRule) {
+    const struct {
+        double a, b;
+        bool millimeter, centimeter, inch, point;
+    } rows[] = {
+        {1.0, 1.0, true, true, true, true},
+        {1.0, 1.0 + 1e-10, true, false, false, false},
+        {0.0, 1e-9, true, false, false, false},
+        {0.0, 1.1e-9, false, false, false, false},
+        {0.1 + 0.2, 0.3, true, false, false, true}, // 5.6e-17 apart
+        {1.0, 1.0 + 2.220446049250313e-16, true, false, false, false},
+        {nan, nan, false, false, false, false},
+        {infinity, infinity, false, true, true, false}, // their difference is no number
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::Message() << row.a << " " << row.b);
+        EXPECT_EQ(ZMillimeter(row.a) == ZMillimeter(row.b), row.millimeter);
+        EXPECT_EQ(ZMillimeter(row.a) != ZMillimeter(row.b), !row.millimeter);
+        EXPECT_EQ(ZCentimeter(row.a) == ZCentimeter(row.b), row.centimeter);
+        EXPECT_EQ(ZInch(row.a) == ZInch(row.b), row.inch);
+        EXPECT_EQ(ZEmbPoint(row.a) == ZEmbPoint(row.b), row.point);
+        EXPECT_EQ(ZMillimeter(row.a) < ZMillimeter(row.b), row.a < row.b);
+        EXPECT_EQ(ZCentimeter(row.a) < ZCentimeter(row.b), row.a < row.b);
+        EXPECT_EQ(ZInch(row.a) < ZInch(row.b), row.a < row.b);
+        EXPECT_EQ(ZEmbPoint(row.a) < ZEmbPoint(row.b), row.a < row.b);
+    }
+}
+
+TEST(Lengths, CompareAndAppendNaturally) {
+    ZMillimeter millimeter(2.5);
+    EXPECT_TRUE(millimeter == 2.5);
+    EXPECT_TRUE(2.5 == millimeter);
+    EXPECT_TRUE(millimeter == 2.5 + 1e-10);
+    EXPECT_TRUE(millimeter != 3);
+    EXPECT_TRUE(3 != millimeter);
+    EXPECT_TRUE(millimeter < 3);
+    EXPECT_TRUE(millimeter > 2);
+    EXPECT_TRUE(2 < millimeter);
+    EXPECT_EQ(millimeter + 1, 3.5);
+    ZString label(L"length: ");
+    label += millimeter;
+    EXPECT_EQ(wide(label + L", " + ZInch(1.0)), L"length:  2.5 mm, 1.00 in");
+}
+
+// A host's own kind of centimetre, which refuses inches.
+class Metric : public ZCentimeter {
+public:
+    int calls = 0;
+
+protected:
+    int setValue(double value, int unit) override {
+        ++calls;
+        return unit == 4 ? 0 : ZCentimeter::setValue(value, unit);
+    }
+};
+
+TEST(ZCentimeter, ReadsThroughItsVirtualSetValue) {
+    Metric metric;
+    metric.setStringWithUnits(L"2 in", 1);
+    EXPECT_EQ(double(metric), 2.0);
+    EXPECT_EQ(metric.calls, 3) << "the unit, the preferred unit, the own unit";
+}
+
+// Names the protected slot.
+class Named : public ZCentimeter {
+public:
+    static auto setValueSlot() {
+        return &Named::setValue;
+    }
+};
+
+TEST(Lengths, SlotsAndPolymorphismAreKept) {
+    EXPECT_EQ(slotOf(Named::setValueSlot()), 0);
+    EXPECT_EQ(slotOf(&ZCentimeter::setStringWithUnits), 3);
+    EXPECT_EQ(slotOf(&ZCentimeter::getStringWithUnits), 4);
+    EXPECT_EQ(slotOf(&ZCentimeter::getDensityStringWithUnits), 5);
+    using Conversion = ZString (ZCentimeter::*)();
+    using ConstConversion = ZString (ZCentimeter::*)() const;
+    EXPECT_EQ(slotOf(static_cast<Conversion>(&ZCentimeter::operator ZString)), 6);
+    EXPECT_EQ(slotOf(static_cast<ConstConversion>(&ZCentimeter::operator ZString)), 7);
+    EXPECT_FALSE(std::is_polymorphic_v<ZMillimeter>);
+    EXPECT_TRUE(std::has_virtual_destructor_v<ZInch>);
+    EXPECT_TRUE(std::has_virtual_destructor_v<ZEmbPoint>);
+    EXPECT_EQ(sizeof(ZMillimeter), 16u);
+    EXPECT_EQ(sizeof(ZInch), 24u);
+    EXPECT_EQ(sizeof(ZEmbPoint), 24u);
+}
+
+TEST(Lengths, ReadAndRenderUnderALocaleWithAComma) {
+    const CommaLocale comma;
+    if (!comma.isSet())
+        GTEST_SKIP() << "no locale with a decimal comma here";
+    ZMillimeter length(ZString(L"2.25 mm"));
+    EXPECT_EQ(double(length), 2.25);
+    EXPECT_EQ(wide(length), L"2.25 mm");
+}
+
+} // namespace

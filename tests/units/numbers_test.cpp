@@ -1,0 +1,170 @@
+#include "tests/support.h"
+
+#include <zarnex/units/ZDegree.h>
+#include <zarnex/units/ZHalfNumber.h>
+#include <zarnex/units/ZNumber.h>
+#include <zarnex/units/ZPercent.h>
+#include <zarnex/units/ZRealNumber.h>
+
+#include <climits>
+#include <cmath>
+#include <cwchar>
+#include <limits>
+#include <random>
+
+namespace {
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+TEST(ZNumber, CutsDoublesTowardZero) {
+    const struct {
+        double value;
+        int number;
+    } rows[] = {
+        {2.9, 2},         {-2.9, -2},        {2147483647.9, INT_MAX}, {2147483648.0, INT_MAX},
+        {1e300, INT_MAX}, {-1e300, INT_MIN}, {std::nan(""), 0},       {infinity, INT_MAX},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(double(ZNumber(row.value)), row.number) << row.value;
+}
+
+TEST(ZNumber, ReadsTheLeadingInteger) {
+    const struct {
+        const wchar_t* text;
+        int number;
+    } rows[] = {
+        {L"12.7 mm", 12},
+        {L"50.0 %", 50},
+        {L"abc", 0},
+        {L"", 0},
+        {L" \t+7x", 7},
+        {L"-8", -8},
+        {L"- 8", 0},
+        {L"--8", 0},
+        {L"2147483648", INT_MAX},
+        {L"-99999999999999999999999", INT_MIN},
+        {L"0x10", 0},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(double(ZNumber(ZString(row.text))), row.number) << ZString(row.text);
+}
+
+TEST(ZRealNumber, ReadsTheLeadingNumber) {
+    const struct {
+        const wchar_t* text;
+        double number;
+    } rows[] = {
+        {L"2.75", 2.75},
+        {L" \t\n-2.5e2x", -250.0},
+        {L"90\u00B0", 90.0},
+        {L".5.5", 0.5},
+        {L"5.", 5.0},
+        {L"1e", 1.0},
+        {L"1e+", 1.0},
+        {L"abc", 0.0},
+        {L"", 0.0},
+        {L"+", 0.0},
+        {L"+-5", 0.0},
+        {L".", 0.0},
+        {L"0x1F", 31.0},
+        {L"0x.8p1", 1.0},
+        {L"0xg", 0.0},
+        {L"0x", 0.0},
+        {L"inf", infinity},
+        {L"-INFINITYx", -infinity},
+        {L"1e999", infinity},
+        {L"-1e999", -infinity},
+        {L"1e-999", 0.0},
+        {L"0e999", 0.0},
+        {L"1e99999999999999999999", infinity},
+        {L"0.00001e-99999999999999999999", 0.0},
+        {L"0x1p99999", infinity},
+        {L"4.9e-324", 4.9e-324},
+        {L"2,5", 2.0},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(double(ZRealNumber(ZString(row.text))), row.number) << ZString(row.text);
+    EXPECT_TRUE(std::isnan(double(ZRealNumber(ZString(L"nan")))));
+    EXPECT_TRUE(std::signbit(double(ZRealNumber(ZString(L"-0")))));
+}
+
+TEST(ZRealNumber, ReadsWhatTheStandardReaderReads) {
+    std::mt19937 random(20260104);
+    const wchar_t units[] = L"0019.eE+-  x";
+    for (int turn = 0; turn < 30000; ++turn) {
+        std::wstring text(random() % 12, L' ');
+        for (wchar_t& unit : text)
+            unit = units[random() % (std::size(units) - 2)];
+        ASSERT_EQ(double(ZRealNumber(ZString(text.c_str()))), std::wcstod(text.c_str(), nullptr))
+            << ZString(text.c_str());
+    }
+}
+
+TEST(ZHalfNumber, RoundsToTheNearestHalf) {
+    const struct {
+        double value, half;
+    } rows[] = {
+        {1.24, 1.0}, {1.25, 1.5}, {1.74, 1.5}, {1.75, 2.0},    {-0.8, -1.0},           {-1.3, -1.5},
+        {3.0, 3.0},  {0.2, 0.0},  {0.5, 0.5},  {1e300, 1e300}, {-infinity, -infinity},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(double(ZHalfNumber(row.value)), row.half) << row.value;
+    EXPECT_TRUE(std::isnan(double(ZHalfNumber(std::nan("")))));
+    EXPECT_EQ(double(ZHalfNumber(ZString(L"2.3"))), 2.5);
+}
+
+template <class Quantity>
+void checkText(double value, const wchar_t* text) {
+    SCOPED_TRACE(testing::Message() << value << " as unit " << Quantity().getUnitId());
+    Quantity quantity(value);
+    EXPECT_EQ(wide(quantity), text);
+    EXPECT_EQ(wide(static_cast<const Quantity&>(quantity)), text);
+    EXPECT_EQ(wide(quantity.getStringWithUnits(2)), text);
+    EXPECT_EQ(quantity.isValid(), 1);
+}
+
+TEST(Numbers, Render) {
+    checkText<ZNumber>(-2.9, L"-2");
+    checkText<ZRealNumber>(3.14159, L" 3.1");
+    checkText<ZHalfNumber>(2.3, L" 2.5");
+    checkText<ZPercent>(50.0, L"50.0 %");
+    checkText<ZDegree>(45.0, L"45.0 \u00B0");
+    EXPECT_EQ(wide(ZPercent(12.345).getString(8, 2)), L"   12.35 %");
+    ZDegree::setUnitString(L"deg%");
+    const std::wstring labelled = wide(ZDegree(1.0));
+    ZDegree::setUnitString(L"\u00B0");
+    EXPECT_EQ(labelled, L" 1.0 deg%");
+}
+
+TEST(Numbers, StartFromTheirDefaultsAndFromText) {
+    EXPECT_EQ(double(ZNumber()), 0.0);
+    EXPECT_EQ(double(ZRealNumber()), 0.0);
+    EXPECT_EQ(double(ZHalfNumber()), 0.0);
+    EXPECT_EQ(double(ZDegree()), 0.0);
+    EXPECT_EQ(wide(ZPercent()), L"100.0 %");
+    EXPECT_EQ(wide(ZPercent(ZString(L"abc"))), L"0.0 %");
+    EXPECT_EQ(double(ZDegree(ZString(L"90\u00B0"))), 90.0);
+    ZPercent percent(7.0);
+    percent.setStringWithUnits(L" 12.5 %", 2);
+    EXPECT_EQ(double(percent), 12.5);
+}
+
+TEST(Numbers, Compare) {
+    const double nan = std::nan("");
+    EXPECT_TRUE(ZNumber(2.9) == ZNumber(2.1));
+    EXPECT_FALSE(ZNumber(2.0) == 2.9);
+    EXPECT_TRUE(ZNumber(-2.0) < ZNumber(2.0));
+    EXPECT_FALSE(ZRealNumber(0.1 + 0.2) == ZRealNumber(0.3));
+    EXPECT_FALSE(ZRealNumber(nan) == ZRealNumber(nan));
+    EXPECT_TRUE(ZRealNumber(1.0) < ZRealNumber(2.0));
+    EXPECT_TRUE(ZHalfNumber(1.3) == ZHalfNumber(1.5));
+    EXPECT_TRUE(ZHalfNumber(1.0) < ZHalfNumber(1.3));
+    EXPECT_TRUE(ZDegree(1.0) == ZDegree(1.0));
+    EXPECT_TRUE(ZDegree(1.0) < ZDegree(361.0));
+    EXPECT_TRUE(ZPercent(1.0) != ZPercent(2.0));
+    EXPECT_TRUE(ZPercent(nan) != ZPercent(nan));
+    EXPECT_TRUE(ZPercent(3.0) > ZPercent(2.0));
+    EXPECT_FALSE(ZPercent(2.0) > ZPercent(2.0));
+}
+
+} // namespace

@@ -1,0 +1,191 @@
+#include "tests/support.h"
+
+#include <zarnex/units/ZCentimeterPerSec.h>
+#include <zarnex/units/ZEmbPoint.h>
+#include <zarnex/units/ZInch.h>
+#include <zarnex/units/ZMillimeter.h>
+#include <zarnex/units/ZMillimeterPerSec.h>
+#include <zarnex/units/ZSpi.h>
+#include <zarnex/units/ZSquareCentimeter.h>
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+template <class Quantity>
+void checkRead(const wchar_t* text, double value, int valid = 1) {
+    SCOPED_TRACE(testing::Message() << ZString(text) << " as unit " << Quantity().getUnitId());
+    const Quantity read{ZString(text)};
+    EXPECT_EQ(double(read), value);
+    EXPECT_EQ(read.isValid(), valid);
+}
+
+TEST(ZSpi, ReadsDensitiesAndStitchLengths) {
+    checkRead<ZSpi>(L"6 spi", 6.0);
+    checkRead<ZSpi>(L"6", 6.0);
+    checkRead<ZSpi>(L"2 mm", 12.7);
+    checkRead<ZSpi>(L"2 cm", 1.27);
+    checkRead<ZSpi>(L"0.5 in", 2.0);
+    checkRead<ZSpi>(L"127 pt", 2.0);
+    checkRead<ZSpi>(L"-2 mm", -2.0); // the length is refused, the bare density is not
+    checkRead<ZSpi>(L"-2 spi", -2.0);
+    checkRead<ZSpi>(L"0 spi", 0.0);
+    checkRead<ZSpi>(L"0 mm", infinity);
+    checkRead<ZSpi>(L"-0 mm", infinity);
+    checkRead<ZSpi>(L"5 per sq cm", 5.0);
+    checkRead<ZSpi>(L"6 spi more", 6.0, 0);
+    checkRead<ZSpi>(L"x", 0.0, 0);
+}
+
+TEST(ZMillimeterPerSec, ReadsMillimetersAndCentimetersOnly) {
+    checkRead<ZMillimeterPerSec>(L"3", 3.0);
+    checkRead<ZMillimeterPerSec>(L"3 mm/s", 3.0);
+    checkRead<ZMillimeterPerSec>(L"3 cm", 30.0);
+    checkRead<ZMillimeterPerSec>(L"3 in", 3.0);
+    checkRead<ZMillimeterPerSec>(L"3 pt", 3.0);
+    checkRead<ZMillimeterPerSec>(L"5 spi", 5.0);
+    checkRead<ZMillimeterPerSec>(L"x", 0.0, 0);
+}
+
+TEST(ZCentimeterPerSec, ReadsEveryLengthButNoDensity) {
+    checkRead<ZCentimeterPerSec>(L"12", 12.0);
+    checkRead<ZCentimeterPerSec>(L"12 mm", 1.2);
+    checkRead<ZCentimeterPerSec>(L"5 cm/s", 5.0);
+    checkRead<ZCentimeterPerSec>(L"2 in", 5.08);
+    checkRead<ZCentimeterPerSec>(L"50 pt", 0.5);
+    checkRead<ZCentimeterPerSec>(L"5 spi", 5.0);
+    checkRead<ZCentimeterPerSec>(L"5 cm/s fast", 5.0, 0);
+}
+
+TEST(ZSquareCentimeter, ReadsItsOwnUnitOnly) {
+    checkRead<ZSquareCentimeter>(L"5 per sq cm", 5.0);
+    checkRead<ZSquareCentimeter>(L"40 / square centimeters", 40.0);
+    checkRead<ZSquareCentimeter>(L"40 / sq ", 40.0);
+    checkRead<ZSquareCentimeter>(L"5 mm", 5.0);
+    checkRead<ZSquareCentimeter>(L"5", 5.0);
+    checkRead<ZSquareCentimeter>(L"40 per sq km", 40.0, 0); // the blank belongs to the unit
+    checkRead<ZSquareCentimeter>(L"x", 0.0, 0);
+}
+
+TEST(Rates, Render) {
+    ZSpi spi(12.7);
+    EXPECT_EQ(wide(spi), L"12.7 spi");
+    EXPECT_EQ(wide(static_cast<const ZSpi&>(spi)), L"12.7 spi");
+    EXPECT_EQ(wide(spi.getString(7, 2)), L"  12.70 spi");
+    ZSquareCentimeter area(5.0);
+    EXPECT_EQ(wide(area), L" 5.0 per sq cm");
+    EXPECT_EQ(wide(static_cast<const ZSquareCentimeter&>(area)), L" 5.0 per sq cm");
+    EXPECT_EQ(wide(area.getStringWithUnits(2)), L" 5.0 per sq cm");
+    EXPECT_EQ(wide(area.getString(1, 0)), L"5 per sq cm");
+    ZCentimeterPerSec slow(ZString(L"12 mm"));
+    EXPECT_EQ(wide(slow), L"1.20 cm/s");
+    EXPECT_EQ(wide(static_cast<const ZCentimeterPerSec&>(slow)), L"1.20 cm/s");
+    EXPECT_EQ(wide(slow.getString(6, 1)), L"   1.2 cm/s");
+    EXPECT_EQ(wide(slow.getStringWithUnits(2)), L"1.20 cm/s");
+    EXPECT_EQ(wide(slow.getDensityStringWithUnits(2)), L"12.00 mm");
+    EXPECT_EQ(wide(slow.getDensityStringWithUnits(4)), L"1.20 cm/s");
+    ZCentimeter& base = slow;
+    EXPECT_EQ(wide(base), L"1.20 cm/s") << "the conversion is virtual";
+    EXPECT_EQ(base.getUnitId(), 12);
+}
+
+TEST(ZMillimeterPerSec, RendersTwelveOrTwentyTwoDecimalsUnlessConst) {
+    const struct {
+        double value;
+        const wchar_t *text, *constText;
+    } rows[] = {
+        {2.5, L"2.500000000000 mm/s", L"2.50 mm/s"},
+        {0.25, L"0.2500000000000000000000 mm/s", L"0.25 mm/s"},
+        {0.125, L"0.1250000000000000000000 mm/s",
+         L"0.12 mm/s"}, // 12 hundredths; a tie goes to the even digit
+        {0.109375, L"0.109375000000 mm/s", L"0.11 mm/s"}, // 10.9 hundredths are cut to 10
+        {-2.0, L"-2.000000000000 mm/s", L"-2.00 mm/s"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.value);
+        ZMillimeterPerSec speed(row.value);
+        const ZMillimeterPerSec constSpeed(row.value);
+        EXPECT_EQ(wide(speed), row.text);
+        EXPECT_EQ(wide(speed.getStringWithUnits(3)), row.text);
+        EXPECT_EQ(wide(speed.getDensityStringWithUnits(4)), row.text);
+        EXPECT_EQ(wide(constSpeed), row.constText);
+    }
+    EXPECT_EQ(wide(ZMillimeterPerSec(2.5).getDensityStringWithUnits(2)), L"2.50 mm/s");
+    EXPECT_EQ(wide(ZMillimeterPerSec(2.5).getString(7, 1)), L"    2.5 mm/s");
+    ZMillimeterPerSec::setUnitString(L"%f");
+    const std::wstring labelled = wide(ZMillimeterPerSec(2.5).getDensityString(4, 1));
+    ZMillimeterPerSec::setUnitString(L"mm/s");
+    EXPECT_EQ(labelled, L" 2.5 %f");
+}
+
+TEST(ZSpi, RendersItsStitchLengthInOtherUnits) {
+    const ZSpi spi{ZInch(0.1)};
+    EXPECT_EQ(double(spi), 10.0);
+    EXPECT_EQ(wide(spi.getStringWithUnits(2)), L"2.54 mm");
+    EXPECT_EQ(wide(spi.getStringWithUnits(4)), L"0.10 in");
+    EXPECT_EQ(wide(spi.getStringWithUnits(5)), L"25.4 pt");
+    EXPECT_EQ(wide(spi.getStringWithUnits(3)), L"10.0 spi");
+    EXPECT_EQ(wide(spi.getDensityStringWithUnits(2)), L"2.54 mm");
+    EXPECT_EQ(wide(ZSpi(25.4).getDensityStringWithUnits(2)), L"1.00 mm");
+    EXPECT_EQ(wide(ZSpi(25.4).getStringWithUnits(2)), L" 1.0 mm");
+    EXPECT_EQ(wide(spi.getDensityStringWithUnits(6)), L"10.0 spi");
+    EXPECT_EQ(wide(ZSpi(0.0).getStringWithUnits(5)), L"0.0 pt");
+}
+
+template <class Target, class Source>
+void checkAssigned(const Source& source, double value) {
+    SCOPED_TRACE(testing::Message() << "unit " << source.getUnitId());
+    Target target(7.0);
+    target = source;
+    EXPECT_EQ(double(target), value);
+    EXPECT_EQ(target.isValid(), source.isValid());
+    EXPECT_EQ(double(Target(source)), value);
+}
+
+TEST(Rates, ConvertByAssignment) {
+    checkAssigned<ZSpi>(ZMillimeter(ZString(L"2 mm x")), 12.7);
+    checkAssigned<ZSpi>(ZMillimeterPerSec(2.0), 12.7);
+    checkAssigned<ZSpi>(ZCentimeter(2.0), 1.27);
+    checkAssigned<ZSpi>(ZCentimeterPerSec(2.0), 1.27);
+    checkAssigned<ZSpi>(ZInch(2.0), 0.5);
+    checkAssigned<ZSpi>(ZEmbPoint(2.0), 127.0);
+    checkAssigned<ZSpi>(ZMillimeter(-2.0), -12.7);
+    checkAssigned<ZMillimeterPerSec>(ZCentimeter(2.0), 20.0);
+    checkAssigned<ZMillimeterPerSec>(ZCentimeterPerSec(2.0), 20.0);
+    checkAssigned<ZMillimeterPerSec>(ZEmbPoint(2.0), 0.2);
+    checkAssigned<ZMillimeterPerSec>(ZInch(2.0), 50.8);
+    checkAssigned<ZMillimeterPerSec>(ZSpi(2.0), 12.7);
+    ZCentimeterPerSec speed(7.0);
+    speed = ZMillimeter(5.0);
+    EXPECT_EQ(double(speed), 0.5);
+    EXPECT_EQ(speed.getUnitId(), 12);
+}
+
+TEST(Rates, AssigningZeroGivesZeroWhereReadingGivesInfinity) {
+    checkAssigned<ZSpi>(ZMillimeter(0.0), 0.0);
+    checkAssigned<ZSpi>(ZMillimeterPerSec(-0.0), 0.0);
+    checkAssigned<ZSpi>(ZCentimeter(0.0), 0.0);
+    checkAssigned<ZSpi>(ZInch(0.0), 0.0);
+    checkAssigned<ZSpi>(ZEmbPoint(0.0), 0.0);
+    checkAssigned<ZSpi>(ZEmbPoint(2e-16), 0.0); // equal to zero by the points' own rule
+    checkAssigned<ZSpi>(ZEmbPoint(3e-16), 254.0 / 3e-16);
+    checkAssigned<ZSpi>(ZMillimeter(1e-12), 25.4 / 1e-12);
+    checkAssigned<ZMillimeterPerSec>(ZSpi(0.0), 0.0);
+}
+
+TEST(Rates, CompareExactlyExceptMillimetersPerSecond) {
+    EXPECT_FALSE(ZSpi(1.0) == ZSpi(1.0 + 1e-10));
+    EXPECT_FALSE(ZSquareCentimeter(1.0) == ZSquareCentimeter(1.0 + 1e-10));
+    EXPECT_FALSE(ZCentimeterPerSec(1.0) == ZCentimeterPerSec(1.0 + 1e-10));
+    EXPECT_TRUE(ZMillimeterPerSec(1.0) == ZMillimeterPerSec(1.0 + 1e-10));
+    EXPECT_TRUE(ZMillimeterPerSec(1.0) != ZMillimeterPerSec(1.0 + 1e-8));
+    EXPECT_TRUE(ZSpi(1.0) < ZSpi(1.0 + 1e-10));
+    EXPECT_TRUE(ZSquareCentimeter(1.0) < ZSquareCentimeter(2.0));
+    EXPECT_TRUE(ZSpi(2.0) == 2);
+    EXPECT_TRUE(ZCentimeterPerSec(2.0) == 2.0);
+}
+
+} // namespace

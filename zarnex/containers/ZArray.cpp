@@ -1,0 +1,3 @@
+#include <zarnex/containers/ZArray.h>
+
+template class ZArray<float>;

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <zarnex/config.h>
+
+#include <iosfwd>
+
+/// The management interface of the float arrays.
+///
+/// Kept as is: every operation does nothing. ZArray manages its own block.
+class ZARNEX_API ZArrayManager {
+public:
+    explicit ZArrayManager(unsigned long bytes);
+    ZArrayManager(const ZArrayManager& other);
+    ZArrayManager& operator=(const ZArrayManager& other);
+    ~ZArrayManager();
+
+    void growHeap();
+
+    /// Writes nothing; returns 0.
+    int printStatus(std::ostream& out);
+};

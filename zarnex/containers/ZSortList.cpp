@@ -1,0 +1,4 @@
+#include <zarnex/containers/ZSortList.h>
+
+template class ZSortList<int>;
+template class ZSortList<double>;

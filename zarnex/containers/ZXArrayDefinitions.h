@@ -1,0 +1,373 @@
+#pragma once
+
+/// The members of ZXArray, which ZXArray.h includes below the class.
+
+#include <zarnex/config.h>
+#include <zarnex/containers/ZXArray.h>
+#include <zarnex/runtime/exiting.h>
+
+#include <algorithm>
+#include <limits>
+#include <new>
+#include <utility>
+
+template <class T>
+ZXArray<T>::ZXArray()
+    : data_(nullptr), empty_(), allocLength_(0), length_(0), step_(-1), emptySet_(0) {}
+
+template <class T>
+ZXArray<T>::ZXArray(int n, int step) : ZXArray() {
+    step_ = step;
+    growArray(n, 0);
+    length_ = allocLength_;
+}
+
+template <class T>
+ZXArray<T>::ZXArray(const T* values, int n) : ZXArray() {
+    if (values == nullptr)
+        return;
+    growArray(n, 1);
+    length_ = (std::min)((std::max)(n, 0), allocLength_);
+    std::copy_n(values, length_, data_);
+}
+
+template <class T>
+ZXArray<T>::ZXArray(const ZXArray& other) : ZXArray() {
+    *this = other;
+}
+
+template <class T>
+ZXArray<T>::ZXArray(ZXArray&& other) noexcept : ZXArray() {
+    swap(other);
+}
+
+template <class T>
+ZXArray<T>& ZXArray<T>::operator=(const ZXArray& other) {
+    if (this == &other)
+        return *this;
+    if (allocLength_ != other.allocLength_) {
+        reset();
+        if (other.allocLength_ > 0)
+            data_ = new (std::nothrow) T[static_cast<std::size_t>(other.allocLength_)];
+        allocLength_ = data_ == nullptr ? 0 : other.allocLength_;
+    }
+    length_ = data_ == nullptr ? 0 : other.length_;
+    step_ = other.step_;
+    empty_ = other.empty_;
+    emptySet_ = other.emptySet_;
+    std::copy_n(other.data_, allocLength_, data_);
+    return *this;
+}
+
+template <class T>
+ZXArray<T>& ZXArray<T>::operator=(ZXArray&& other) noexcept {
+    swap(other);
+    return *this;
+}
+
+template <class T>
+ZXArray<T>::~ZXArray() {
+    delete[] data_;
+}
+
+template <class T>
+int ZXArray<T>::operator==(const ZXArray& other) const {
+    if (this == &other)
+        return 1;
+    if (length_ != other.length_)
+        return 0;
+    for (int i = 0; i < length_; ++i) {
+        if (!(data_[i] == other.data_[i]))
+            return 0;
+    }
+    return 1;
+}
+
+template <class T>
+int ZXArray<T>::operator!=(const ZXArray& other) const {
+    return !(*this == other);
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE T& ZXArray<T>::get(int i) {
+    if (i < 0)
+        i = 0;
+    if (i >= length_)
+        extendTo(i);
+    return data_[i];
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE T& ZXArray<T>::operator[](int i) {
+    return get(i);
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE T& ZXArray<T>::operator()(int i) {
+    return get(i);
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE const T& ZXArray<T>::get(int i) const {
+    if (i < 0)
+        i = 0;
+    return i < allocLength_ ? data_[i] : empty_;
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE const T& ZXArray<T>::operator[](int i) const {
+    return get(i);
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE const T& ZXArray<T>::operator()(int i) const {
+    return get(i);
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE ZXArray<T>::operator T*() {
+    return data_;
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE ZXArray<T>::operator const T*() const {
+    return data_;
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE void ZXArray<T>::set(int i, const T& value) {
+    if ((std::max)(i, 0) < length_) {
+        get(i) = value;
+    } else {
+        const T copy(value); // growing may free the storage that holds `value`
+        get(i) = copy;
+    }
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE T& ZXArray<T>::add(const T& value) {
+    if (length_ == allocLength_) {
+        const T copy(value); // growing frees the storage that may hold `value`
+        extendTo(length_);
+        return data_[length_ - 1] = copy;
+    }
+    return data_[length_++] = value;
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE T& ZXArray<T>::add() {
+    return add(empty_);
+}
+
+template <class T>
+T& ZXArray<T>::ins(int i, const T& value) {
+    i = (std::max)(i, 0);
+    if (i >= length_) {
+        set(i, value);
+        return data_[i];
+    }
+    T copy(value); // `value` may be one of the elements that move
+    reserve(length_ + 1LL);
+    std::move_backward(data_ + i, data_ + length_, data_ + length_ + 1);
+    ++length_;
+    return data_[i] = std::move(copy);
+}
+
+template <class T>
+T& ZXArray<T>::ins(int i) {
+    return ins(i, empty_);
+}
+
+template <class T>
+T& ZXArray<T>::insert(const T& value, int i) {
+    return ins(i, value);
+}
+
+template <class T>
+void ZXArray<T>::del(int i) {
+    i = (std::max)(i, 0);
+    if (i >= length_)
+        return;
+    std::move(data_ + i + 1, data_ + length_, data_ + i);
+    --length_;
+    data_[length_] = empty_;
+}
+
+template <class T>
+void ZXArray<T>::remove(int i) {
+    del(i);
+}
+
+template <class T>
+int ZXArray<T>::find(const T& value, int fromEnd) const {
+    if (fromEnd == 0) {
+        for (int i = 0; i < length_; ++i) {
+            if (data_[i] == value)
+                return i;
+        }
+    } else {
+        for (int i = length_ - 1; i >= 0; --i) {
+            if (data_[i] == value)
+                return i;
+        }
+    }
+    return -1;
+}
+
+template <class T>
+void ZXArray<T>::clear() {
+    std::fill_n(data_, length_, empty_);
+}
+
+template <class T>
+void ZXArray<T>::setAll(const T& value) {
+    const T copy(value); // `value` may be one of the elements
+    std::fill_n(data_, length_, copy);
+}
+
+template <class T>
+void ZXArray<T>::reset() {
+    delete[] data_;
+    data_ = nullptr;
+    allocLength_ = 0;
+    length_ = 0;
+}
+
+template <class T>
+void ZXArray<T>::compact() {
+    growArray(length_, 0);
+}
+
+template <class T>
+void ZXArray<T>::setSize(int n) {
+    n = (std::max)(n, 0);
+    if (n < length_)
+        std::fill(data_ + n, data_ + length_, empty_);
+    else if (n > allocLength_)
+        growArray(n, 1);
+    length_ = (std::min)(n, allocLength_);
+}
+
+template <class T>
+void ZXArray<T>::resize(int n) {
+    n = (std::max)(n, 0);
+    const int slots = getGrowSize(n);
+    if (n < length_ && slots > length_)
+        std::fill(data_ + n, data_ + length_, empty_);
+    length_ = n;
+    growArray(slots, 0);
+    length_ = (std::min)(length_, allocLength_);
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE void ZXArray<T>::reserve(long long n) {
+    if (n <= allocLength_)
+        return;
+    growArray(static_cast<int>((std::min)(n, 0LL + (std::numeric_limits<int>::max)())), 1);
+    if (n > allocLength_)
+        zarnex::exitFatally("failed alloc\n", 1);
+}
+
+template <class T>
+void ZXArray<T>::setAllocSize(int n) {
+    n = (std::max)(n, 0);
+    length_ = (std::min)(length_, n);
+    growArray(n, 0);
+}
+
+template <class T>
+void ZXArray<T>::setEmpty(const T& value) {
+    empty_ = value;
+    emptySet_ = 1;
+    std::fill(data_ + length_, data_ + allocLength_, empty_);
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE const T& ZXArray<T>::getEmpty() const {
+    return empty_;
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE int ZXArray<T>::isEmptySet() const {
+    return emptySet_;
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE int ZXArray<T>::length() const {
+    return length_;
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE int ZXArray<T>::allocLength() const {
+    return allocLength_;
+}
+
+template <class T>
+int ZXArray<T>::allocBytes() const {
+    return static_cast<int>(static_cast<unsigned>(allocLength_) * unsigned{sizeof(T)});
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE int ZXArray<T>::getStep() const {
+    return step_;
+}
+
+template <class T>
+int ZXArray<T>::setStep(int step) {
+    return step_ = step;
+}
+
+template <class T>
+void ZXArray<T>::swap(ZXArray& other) noexcept {
+    using std::swap;
+    swap(data_, other.data_);
+    swap(empty_, other.empty_);
+    swap(allocLength_, other.allocLength_);
+    swap(length_, other.length_);
+    swap(step_, other.step_);
+    swap(emptySet_, other.emptySet_);
+}
+
+template <class T>
+int ZXArray<T>::getGrowSize(int n) {
+    if (n < 1)
+        return 0;
+    long long slots;
+    if (step_ >= 1) {
+        slots = (static_cast<long long>(n) + step_ - 1) / step_ * step_;
+    } else if (n >= allocLength_) {
+        for (slots = allocLength_ <= 0 ? 32 : allocLength_; slots < n;)
+            slots *= 2;
+    } else {
+        for (slots = allocLength_; slots / 2 >= n;)
+            slots /= 2;
+    }
+    return static_cast<int>((std::min)(slots, 0LL + (std::numeric_limits<int>::max)()));
+}
+
+template <class T>
+void ZXArray<T>::growArray(int n, int useRule) {
+    const int slots = useRule != 0 ? getGrowSize(n) : n;
+    if (slots <= 0) {
+        delete[] data_;
+        data_ = nullptr;
+        allocLength_ = 0;
+    } else if (slots != allocLength_) {
+        T* const storage = new (std::nothrow) T[static_cast<std::size_t>(slots)];
+        if (storage == nullptr)
+            return;
+        T* const end = std::move(data_, data_ + (std::min)(slots, allocLength_), storage);
+        if (emptySet_ != 0)
+            std::fill(end, storage + slots, empty_);
+        delete[] data_;
+        data_ = storage;
+        allocLength_ = slots;
+    }
+}
+
+// The slow half of get(): makes slot `i`, at or past the length, the last one.
+template <class T>
+void ZXArray<T>::extendTo(int i) {
+    reserve(i + 1LL);
+    length_ = i + 1;
+}

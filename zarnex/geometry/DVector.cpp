@@ -1,0 +1,5 @@
+// The members stand in the header; the library exports the copies that it makes here.
+#include <zarnex/geometry/DVector.h>
+
+template class ZList<DVector>;
+template class ZXArray<DVector>;

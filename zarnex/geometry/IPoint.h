@@ -1,0 +1,205 @@
+#pragma once
+
+#include <zarnex/config.h>
+#include <zarnex/containers/ZList.h>
+#include <zarnex/geometry/IVector.h>
+#include <zarnex/geometry/formulas.h>
+
+/// A place in the plane, in 32-bit integers.
+///
+/// Sums, differences and negation wrap. Everything else is computed in doubles from
+/// the exact coordinates; where the result is a point again its coordinates are
+/// truncated toward zero unless said, the nearest int where they do not fit and 0
+/// for NaN.
+///
+/// Members say what differs from DPoint, where each is described.
+class ZARNEX_API IPoint {
+public:
+    int x;
+    int y;
+
+    /// The origin.
+    IPoint();
+    IPoint(int x, int y);
+    IPoint(const IPoint&) = default;
+    IPoint& operator=(const IPoint&) = default;
+
+    int& xval();
+    int& yval();
+    int xval() const;
+    int yval() const;
+
+    IPoint operator+(const IPoint& p) const;
+    IPoint operator+(const IVector& v) const;
+    IVector operator-(const IPoint& p) const;
+    IPoint operator-(const IVector& v) const;
+    IPoint operator-() const;
+
+    IPoint& operator+=(const IPoint& p);
+    IPoint& operator+=(const IVector& v);
+    IPoint& operator-=(const IPoint& p);
+    IPoint& operator-=(const IVector& v);
+
+    IPoint operator*(const double& s) const;
+    IPoint operator/(const double& d) const;
+
+    /// 1 if both coordinates are exactly equal, else 0.
+    int operator==(const IPoint& p) const;
+    int operator!=(const IPoint& p) const;
+
+    /// Kept as is: dominance, not an order. Each holds when it holds for x and for
+    /// y, so that two points can be neither less, equal nor greater. Do not sort by it.
+    int operator<(const IPoint& p) const;
+    int operator<=(const IPoint& p) const;
+    int operator>(const IPoint& p) const;
+    int operator>=(const IPoint& p) const;
+
+    double distance(const IPoint& p) const;
+    double squaredDistance(const IPoint& p) const;
+    double manhattanDistance(const IPoint& p) const;
+
+    /// Kept as is: the sums are truncated toward zero, although + wraps and a
+    /// ZCoord is moved by integers.
+    IPoint& translate(double dx, double dy);
+
+    IPoint& scale(double sx, double sy);
+
+    /// scale() with the products rounded, halves away from zero.
+    IPoint& roundScale(double sx, double sy);
+
+    /// Kept as is: truncates the result toward zero, although roundScale() and
+    /// matrixRot() round, and with the short pi of DPoint::rotate: (10, 0) turned by
+    /// 90 about the origin is (0, 9).
+    IPoint& rotate(double degrees, const IPoint& centre);
+
+    /// Rounds the result, halves away from zero.
+    IPoint& matrixRot(const double m[2][3], double z);
+
+    IPoint& mirror(const IPoint& a, const IPoint& b);
+};
+
+ZARNEX_INLINE IPoint::IPoint() : x(0), y(0) {}
+
+ZARNEX_INLINE IPoint::IPoint(int xValue, int yValue) : x(xValue), y(yValue) {}
+
+ZARNEX_INLINE int& IPoint::xval() {
+    return x;
+}
+
+ZARNEX_INLINE int& IPoint::yval() {
+    return y;
+}
+
+ZARNEX_INLINE int IPoint::xval() const {
+    return x;
+}
+
+ZARNEX_INLINE int IPoint::yval() const {
+    return y;
+}
+
+ZARNEX_INLINE IPoint IPoint::operator+(const IPoint& p) const {
+    using namespace zarnex::detail;
+    return IPoint(sum(x, p.x), sum(y, p.y));
+}
+
+ZARNEX_INLINE IPoint IPoint::operator+(const IVector& v) const {
+    using namespace zarnex::detail;
+    return IPoint(sum(x, v.x), sum(y, v.y));
+}
+
+ZARNEX_INLINE IVector IPoint::operator-(const IPoint& p) const {
+    using namespace zarnex::detail;
+    return IVector(difference(x, p.x), difference(y, p.y));
+}
+
+ZARNEX_INLINE IPoint IPoint::operator-(const IVector& v) const {
+    using namespace zarnex::detail;
+    return IPoint(difference(x, v.x), difference(y, v.y));
+}
+
+ZARNEX_INLINE IPoint IPoint::operator-() const {
+    using namespace zarnex::detail;
+    return IPoint(negated(x), negated(y));
+}
+
+ZARNEX_INLINE IPoint& IPoint::operator+=(const IPoint& p) {
+    return *this = *this + p;
+}
+
+ZARNEX_INLINE IPoint& IPoint::operator+=(const IVector& v) {
+    return *this = *this + v;
+}
+
+ZARNEX_INLINE IPoint& IPoint::operator-=(const IPoint& p) {
+    using namespace zarnex::detail;
+    return *this = IPoint(difference(x, p.x), difference(y, p.y));
+}
+
+ZARNEX_INLINE IPoint& IPoint::operator-=(const IVector& v) {
+    return *this = *this - v;
+}
+
+ZARNEX_INLINE IPoint IPoint::operator*(const double& s) const {
+    using namespace zarnex::detail;
+    return truncated<IPoint>(scaled(widened(*this), s, s));
+}
+
+ZARNEX_INLINE IPoint IPoint::operator/(const double& d) const {
+    using namespace zarnex::detail;
+    return truncated<IPoint>(divided(widened(*this), d));
+}
+
+ZARNEX_INLINE int IPoint::operator==(const IPoint& p) const {
+    return x == p.x && y == p.y;
+}
+
+ZARNEX_INLINE int IPoint::operator!=(const IPoint& p) const {
+    return !(*this == p);
+}
+
+ZARNEX_INLINE int IPoint::operator<(const IPoint& p) const {
+    return x < p.x && y < p.y;
+}
+
+ZARNEX_INLINE int IPoint::operator<=(const IPoint& p) const {
+    return x <= p.x && y <= p.y;
+}
+
+ZARNEX_INLINE int IPoint::operator>(const IPoint& p) const {
+    return x > p.x && y > p.y;
+}
+
+ZARNEX_INLINE int IPoint::operator>=(const IPoint& p) const {
+    return x >= p.x && y >= p.y;
+}
+
+ZARNEX_INLINE double IPoint::distance(const IPoint& p) const {
+    using namespace zarnex::detail;
+    return length(offset(widened(*this), widened(p)));
+}
+
+ZARNEX_INLINE double IPoint::squaredDistance(const IPoint& p) const {
+    using namespace zarnex::detail;
+    const Pair d = offset(widened(*this), widened(p));
+    return dot(d, d);
+}
+
+ZARNEX_INLINE double IPoint::manhattanDistance(const IPoint& p) const {
+    using namespace zarnex::detail;
+    return manhattanLength(offset(widened(*this), widened(p)));
+}
+
+ZARNEX_INLINE IPoint& IPoint::translate(double dx, double dy) {
+    using namespace zarnex::detail;
+    const Pair here = widened(*this);
+    return *this = truncated<IPoint>({here.x + dx, here.y + dy});
+}
+
+ZARNEX_INLINE IPoint& IPoint::scale(double sx, double sy) {
+    using namespace zarnex::detail;
+    return *this = truncated<IPoint>(scaled(widened(*this), sx, sy));
+}
+
+extern template class ZARNEX_API ZList<IPoint>;
+extern template class ZARNEX_API ZList<ZList<IPoint>*>;

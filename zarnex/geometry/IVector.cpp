@@ -1,0 +1,2 @@
+// The members stand in the header; the library exports the copies that it makes here.
+#include <zarnex/geometry/IVector.h>

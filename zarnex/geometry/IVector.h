@@ -1,0 +1,185 @@
+#pragma once
+
+#include <zarnex/config.h>
+#include <zarnex/geometry/formulas.h>
+
+/// A displacement in the plane, in 32-bit integers.
+///
+/// Sums, differences and negation wrap. Everything else is computed in doubles from
+/// the exact components; where the result is a vector again its components are
+/// truncated toward zero, the nearest int where they do not fit and 0 for NaN.
+///
+/// Members say what differs from DVector, where each is described.
+class ZARNEX_API IVector {
+public:
+    int x;
+    int y;
+
+    /// The zero vector.
+    IVector();
+    IVector(int x, int y);
+    IVector(const IVector&) = default;
+    IVector& operator=(const IVector&) = default;
+
+    int& xval();
+    int& yval();
+    int xval() const;
+    int yval() const;
+
+    IVector operator+(const IVector& v) const;
+    IVector operator-(const IVector& v) const;
+    IVector operator-() const;
+    IVector& operator+=(const IVector& v);
+
+    IVector operator*(const double& s) const;
+
+    /// Kept as is: the dot product, wrapped into 32 bits, although length() and cross()
+    /// are doubles. projectOn(), projectOnUnit() and isSameSense() use a double as well.
+    int operator*(const IVector& v) const;
+
+    /// 1 if both components are exactly equal, else 0.
+    int operator==(const IVector& v) const;
+    int operator!=(const IVector& v) const;
+
+    /// Kept as is: compares the lengths, so that two vectors can be neither less
+    /// nor greater without being equal. Points compare by coordinate.
+    int operator<(const IVector& v) const;
+    int operator>(const IVector& v) const;
+
+    double length() const;
+    double squaredLength() const;
+    double cross(const IVector& v) const;
+
+    /// The zero vector unchanged; otherwise components of -1, 0 and 1.
+    ///
+    /// Kept as is: each component is multiplied by 1 / length and truncated, so that
+    /// (3, 4) gives (0, 0), and so does (49, 0), as 49 * (1.0 / 49) is below 1.
+    IVector normalize() const;
+
+    IVector ortho(int s) const;
+    IVector projectOn(const IVector& v) const;
+    IVector projectOnUnit(const IVector& unit) const;
+
+    /// Kept as is: the projection is truncated before it is doubled.
+    IVector mirror(const IVector& v) const;
+
+    IVector& reverse();
+    IVector& scale(double sx, double sy);
+    int isSameSense(const IVector& v) const;
+};
+
+ZARNEX_INLINE IVector::IVector() : x(0), y(0) {}
+
+ZARNEX_INLINE IVector::IVector(int xValue, int yValue) : x(xValue), y(yValue) {}
+
+ZARNEX_INLINE int& IVector::xval() {
+    return x;
+}
+
+ZARNEX_INLINE int& IVector::yval() {
+    return y;
+}
+
+ZARNEX_INLINE int IVector::xval() const {
+    return x;
+}
+
+ZARNEX_INLINE int IVector::yval() const {
+    return y;
+}
+
+ZARNEX_INLINE IVector IVector::operator+(const IVector& v) const {
+    using namespace zarnex::detail;
+    return IVector(sum(x, v.x), sum(y, v.y));
+}
+
+ZARNEX_INLINE IVector IVector::operator-(const IVector& v) const {
+    using namespace zarnex::detail;
+    return IVector(difference(x, v.x), difference(y, v.y));
+}
+
+ZARNEX_INLINE IVector IVector::operator-() const {
+    using namespace zarnex::detail;
+    return IVector(negated(x), negated(y));
+}
+
+ZARNEX_INLINE IVector& IVector::operator+=(const IVector& v) {
+    return *this = *this + v;
+}
+
+ZARNEX_INLINE IVector IVector::operator*(const double& s) const {
+    using namespace zarnex::detail;
+    return truncated<IVector>(scaled(widened(*this), s, s));
+}
+
+ZARNEX_INLINE int IVector::operator*(const IVector& v) const {
+    using namespace zarnex::detail;
+    return sum(product(x, v.x), product(y, v.y));
+}
+
+ZARNEX_INLINE int IVector::operator==(const IVector& v) const {
+    return x == v.x && y == v.y;
+}
+
+ZARNEX_INLINE int IVector::operator!=(const IVector& v) const {
+    return !(*this == v);
+}
+
+ZARNEX_INLINE double IVector::length() const {
+    return zarnex::detail::length(zarnex::detail::widened(*this));
+}
+
+ZARNEX_INLINE int IVector::operator<(const IVector& v) const {
+    return length() < v.length();
+}
+
+ZARNEX_INLINE int IVector::operator>(const IVector& v) const {
+    return length() > v.length();
+}
+
+ZARNEX_INLINE double IVector::squaredLength() const {
+    using namespace zarnex::detail;
+    return dot(widened(*this), widened(*this));
+}
+
+ZARNEX_INLINE double IVector::cross(const IVector& v) const {
+    return zarnex::detail::cross(zarnex::detail::widened(*this), zarnex::detail::widened(v));
+}
+
+ZARNEX_INLINE IVector IVector::normalize() const {
+    using namespace zarnex::detail;
+    return truncated<IVector>(normalized(widened(*this)));
+}
+
+ZARNEX_INLINE IVector IVector::ortho(int s) const {
+    using namespace zarnex::detail;
+    return IVector(product(negated(y), s), product(x, s));
+}
+
+ZARNEX_INLINE IVector IVector::projectOn(const IVector& v) const {
+    using namespace zarnex::detail;
+    return truncated<IVector>(projected(widened(*this), widened(v)));
+}
+
+ZARNEX_INLINE IVector IVector::projectOnUnit(const IVector& unit) const {
+    using namespace zarnex::detail;
+    return truncated<IVector>(projectedOnUnit(widened(*this), widened(unit)));
+}
+
+ZARNEX_INLINE IVector IVector::mirror(const IVector& v) const {
+    return projectOn(v) * 2.0 - *this;
+}
+
+ZARNEX_INLINE IVector& IVector::reverse() {
+    return *this = -*this;
+}
+
+ZARNEX_INLINE IVector& IVector::scale(double sx, double sy) {
+    using namespace zarnex::detail;
+    return *this = truncated<IVector>(scaled(widened(*this), sx, sy));
+}
+
+ZARNEX_INLINE int IVector::isSameSense(const IVector& v) const {
+    using namespace zarnex::detail;
+    return sameSense(widened(*this), widened(v));
+}

@@ -1,0 +1,3 @@
+#include <zarnex/geometry/ZCoord.h>
+
+template class ZCoord<short>;

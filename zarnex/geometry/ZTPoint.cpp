@@ -1,0 +1,3 @@
+#include <zarnex/geometry/ZTPoint.h>
+
+template class ZTPoint<double>;

@@ -1,0 +1,3 @@
+#include <zarnex/geometry/ZVector.h>
+
+template class ZVector<short>;

@@ -1,0 +1,216 @@
+#pragma once
+
+#include <zarnex/config.h>
+#include <zarnex/geometry/formulas.h>
+
+/// A displacement in the plane, in integers of type T; for short, 16 bits.
+///
+/// Sums, differences and negation wrap into T. Everything else is computed in doubles
+/// from the exact components; where the result is a vector again its components are
+/// truncated toward zero, the nearest T where they do not fit and 0 for NaN.
+///
+/// Members say what differs from DVector, where each is described.
+template <class T>
+class ZVector {
+public:
+    T x;
+    T y;
+
+    /// The zero vector.
+    ZVector();
+    ZVector(const T& x, const T& y);
+    ZVector(const ZVector&) = default;
+    ZVector& operator=(const ZVector&) = default;
+
+    T& xval();
+    T& yval();
+    T xval() const;
+    T yval() const;
+
+    ZVector operator+(const ZVector& v) const;
+    ZVector operator-(const ZVector& v) const;
+    ZVector operator-() const;
+    ZVector& operator+=(const ZVector& v);
+
+    ZVector operator*(const double& s) const;
+
+    /// Kept as is: the dot product, wrapped into T: (200, 200) by itself gives 14464.
+    /// projectOn(), projectOnUnit() and isSameSense() use the exact one.
+    T operator*(const ZVector& v) const;
+
+    /// 1 if both components are exactly equal, else 0.
+    int operator==(const ZVector& v) const;
+    int operator!=(const ZVector& v) const;
+
+    /// Kept as is: compares the lengths, so that two vectors can be neither less
+    /// nor greater without being equal. Points compare by coordinate.
+    int operator<(const ZVector& v) const;
+    int operator>(const ZVector& v) const;
+
+    double length() const;
+    double squaredLength() const;
+    double cross(const ZVector& v) const;
+
+    /// The zero vector unchanged; otherwise components of -1, 0 and 1.
+    ///
+    /// Kept as is: each component is multiplied by 1 / length and truncated, so that
+    /// (3, 4) gives (0, 0), and so does (49, 0), as 49 * (1.0 / 49) is below 1.
+    ZVector normalize() const;
+
+    ZVector ortho(int s) const;
+    ZVector projectOn(const ZVector& v) const;
+    ZVector projectOnUnit(const ZVector& unit) const;
+
+    /// Kept as is: the projection is truncated before it is doubled.
+    ZVector mirror(const ZVector& v) const;
+
+    ZVector& reverse();
+    ZVector& scale(double sx, double sy);
+    int isSameSense(const ZVector& v) const;
+};
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE ZVector<T>::ZVector() : x(0), y(0) {}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE ZVector<T>::ZVector(const T& xValue, const T& yValue)
+    : x(xValue), y(yValue) {}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE T& ZVector<T>::xval() {
+    return x;
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE T& ZVector<T>::yval() {
+    return y;
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE T ZVector<T>::xval() const {
+    return x;
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE T ZVector<T>::yval() const {
+    return y;
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE ZVector<T> ZVector<T>::operator+(const ZVector& v) const {
+    using namespace zarnex::detail;
+    return ZVector(sum(x, v.x), sum(y, v.y));
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE ZVector<T> ZVector<T>::operator-(const ZVector& v) const {
+    using namespace zarnex::detail;
+    return ZVector(difference(x, v.x), difference(y, v.y));
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE ZVector<T> ZVector<T>::operator-() const {
+    using namespace zarnex::detail;
+    return ZVector(negated(x), negated(y));
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE ZVector<T>& ZVector<T>::operator+=(const ZVector& v) {
+    return *this = *this + v;
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE ZVector<T> ZVector<T>::operator*(const double& s) const {
+    using namespace zarnex::detail;
+    return truncated<ZVector<T>>(scaled(widened(*this), s, s));
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE T ZVector<T>::operator*(const ZVector& v) const {
+    using namespace zarnex::detail;
+    return sum(product(x, v.x), product(y, v.y));
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE int ZVector<T>::operator==(const ZVector& v) const {
+    return x == v.x && y == v.y;
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE int ZVector<T>::operator!=(const ZVector& v) const {
+    return !(*this == v);
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE double ZVector<T>::length() const {
+    return zarnex::detail::length(zarnex::detail::widened(*this));
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE int ZVector<T>::operator<(const ZVector& v) const {
+    return length() < v.length();
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE int ZVector<T>::operator>(const ZVector& v) const {
+    return length() > v.length();
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE double ZVector<T>::squaredLength() const {
+    using namespace zarnex::detail;
+    return dot(widened(*this), widened(*this));
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE double ZVector<T>::cross(const ZVector& v) const {
+    return zarnex::detail::cross(zarnex::detail::widened(*this), zarnex::detail::widened(v));
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE ZVector<T> ZVector<T>::normalize() const {
+    using namespace zarnex::detail;
+    return truncated<ZVector<T>>(normalized(widened(*this)));
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE ZVector<T> ZVector<T>::ortho(int s) const {
+    using namespace zarnex::detail;
+    return ZVector(product(negated(y), s), product(x, s));
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE ZVector<T> ZVector<T>::projectOn(const ZVector& v) const {
+    using namespace zarnex::detail;
+    return truncated<ZVector<T>>(projected(widened(*this), widened(v)));
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE ZVector<T> ZVector<T>::projectOnUnit(const ZVector& unit) const {
+    using namespace zarnex::detail;
+    return truncated<ZVector<T>>(projectedOnUnit(widened(*this), widened(unit)));
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE ZVector<T> ZVector<T>::mirror(const ZVector& v) const {
+    return projectOn(v) * 2.0 - *this;
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE ZVector<T>& ZVector<T>::reverse() {
+    return *this = -*this;
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE ZVector<T>& ZVector<T>::scale(double sx, double sy) {
+    using namespace zarnex::detail;
+    return *this = truncated<ZVector<T>>(scaled(widened(*this), sx, sy));
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE int ZVector<T>::isSameSense(const ZVector& v) const {
+    using namespace zarnex::detail;
+    return sameSense(widened(*this), widened(v));
+}
+
+extern template class ZARNEX_API ZVector<short>;

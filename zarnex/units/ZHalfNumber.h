@@ -1,0 +1,39 @@
+#pragma once
+
+#include <zarnex/config.h>
+#include <zarnex/strings/ZString.h>
+#include <zarnex/units/comparison.h>
+
+/// A real number rounded to the nearest half: 1.24 is 1.0, 1.25 is 1.5, -1.3 is
+/// -1.5. Quarters round away from zero. Infinities and NaN stay what they are.
+///
+/// Text is read as for ZRealNumber and then rounded.
+class ZARNEX_API ZHalfNumber {
+public:
+    ZHalfNumber(double number = 0.0);
+    ZHalfNumber(const ZString& text);
+
+    operator double() const;
+
+    /// Always 1.
+    int isValid() const;
+    int getUnitId() const; ///< 11
+
+    /// Reads `text` as the constructor does; the unit is ignored.
+    void setStringWithUnits(const ZString& text, int unit);
+
+    /// "%4.1lf".
+    operator ZString();
+    operator ZString() const;
+
+    /// The own text, whatever the unit.
+    ZString getStringWithUnits(int unit) const;
+
+    /// 1 if both hold the same double; never for NaN.
+    int operator==(const ZHalfNumber& other) const;
+    int operator!=(const ZHalfNumber& other) const;
+    int operator<(const ZHalfNumber& other) const;
+
+private:
+    double value_;
+};

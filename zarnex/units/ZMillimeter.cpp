@@ -1,0 +1,139 @@
+#include <zarnex/units/ZMillimeter.h>
+
+#include <zarnex/geometry/rounding.h>
+#include <zarnex/geometry/tolerance.h>
+#include <zarnex/units/ZCentimeter.h>
+#include <zarnex/units/ZEmbPoint.h>
+#include <zarnex/units/ZInch.h>
+#include <zarnex/units/ZSpi.h>
+#include <zarnex/units/internal/display.h>
+#include <zarnex/units/internal/factors.h>
+#include <zarnex/units/internal/labels.h>
+#include <zarnex/units/internal/reading.h>
+#include <zarnex/units/internal/textAs.h>
+
+#include <cmath>
+
+using namespace zarnex;
+using namespace zarnex::detail;
+
+ZMillimeter::ZMillimeter(double millimeters) : value_(millimeters), valid_(1) {}
+
+ZMillimeter::ZMillimeter(const ZString& text) : value_(0.0), valid_(1) {
+    setStringWithUnits(text, unitNumber);
+}
+
+ZMillimeter::ZMillimeter(const ZCentimeter& length) : ZMillimeter() {
+    *this = length;
+}
+
+ZMillimeter::ZMillimeter(const ZInch& length) : ZMillimeter() {
+    *this = length;
+}
+
+ZMillimeter::ZMillimeter(const ZEmbPoint& length) : ZMillimeter() {
+    *this = length;
+}
+
+ZMillimeter::ZMillimeter(const ZSpi& density) : ZMillimeter() {
+    *this = density;
+}
+
+ZMillimeter& ZMillimeter::operator=(const ZCentimeter& length) {
+    value_ = convertAssigned(Target::millimeter, length, unitCentimeter);
+    valid_ = length.isValid();
+    return *this;
+}
+
+ZMillimeter& ZMillimeter::operator=(const ZInch& length) {
+    value_ = convertAssigned(Target::millimeter, length, unitInch);
+    valid_ = length.isValid();
+    return *this;
+}
+
+ZMillimeter& ZMillimeter::operator=(const ZEmbPoint& length) {
+    value_ = convertAssigned(Target::millimeter, length, unitEmbPoint);
+    valid_ = length.isValid();
+    return *this;
+}
+
+ZMillimeter& ZMillimeter::operator=(const ZSpi& density) {
+    value_ = convertAssigned(Target::millimeter, density, unitSpi);
+    valid_ = density.isValid();
+    return *this;
+}
+
+ZMillimeter::operator double() const {
+    return value_;
+}
+
+int ZMillimeter::isValid() const {
+    return valid_;
+}
+
+int ZMillimeter::getUnitId() const {
+    return unitMillimeter;
+}
+
+void ZMillimeter::setStringWithUnits(const ZString& text, int preferredUnit) {
+    readQuantity(text, preferredUnit, unitMillimeter, value_, valid_,
+                 [this](double value, int unit) { return setValue(value, unit); });
+}
+
+int ZMillimeter::setValue(double value, int unit) {
+    return setConverted(Target::millimeter, value, unit, value_, valid_);
+}
+
+ZMillimeter::operator ZString() {
+    return getString();
+}
+
+ZMillimeter::operator ZString() const {
+    return getString(4, 1);
+}
+
+ZString ZMillimeter::getString() const {
+    const int hundredths = truncateToInt(std::round(value_ * 100.0));
+    return getString(4, decimalsFor(hundredths));
+}
+
+ZString ZMillimeter::getString(int width, int precision) const {
+    return labelledText(value_, width, precision, millimeterLabel());
+}
+
+ZString ZMillimeter::getDensityString(int width, int precision) const {
+    return getString(width, precision);
+}
+
+ZString ZMillimeter::getStringWithUnits(int unit) const {
+    switch (unit) {
+    case unitInch:
+        return textAs<ZInch>(*this);
+    case unitEmbPoint:
+        return textAs<ZEmbPoint>(*this);
+    case unitSpi:
+        return textAs<ZSpi>(*this);
+    default:
+        return getString();
+    }
+}
+
+ZString ZMillimeter::getDensityStringWithUnits(int unit) const {
+    return unit == unitMillimeter ? getDensityString(4, 2) : getStringWithUnits(unit);
+}
+
+int ZMillimeter::operator==(const ZMillimeter& other) const {
+    return IS_EQUAL(value_, other.value_, 1e-9);
+}
+
+int ZMillimeter::operator!=(const ZMillimeter& other) const {
+    return !(*this == other);
+}
+
+int ZMillimeter::operator<(const ZMillimeter& other) const {
+    return value_ < other.value_;
+}
+
+void ZMillimeter::setUnitString(ZString label) {
+    millimeterLabel() = label;
+}

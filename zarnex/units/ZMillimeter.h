@@ -1,0 +1,96 @@
+#pragma once
+
+#include <zarnex/config.h>
+#include <zarnex/strings/ZString.h>
+#include <zarnex/units/comparison.h>
+
+class ZCentimeter;
+class ZEmbPoint;
+class ZInch;
+class ZSpi;
+
+/// A length in millimetres, with a validity flag.
+///
+/// Numbers of any sign, infinities and NaN are stored unchanged and are valid.
+/// Text is a number and an optional unit word (ZUnitScanner lists them); a bare
+/// number, or one whose unit is refused, counts in millimetres. Text that begins
+/// with no number gives 0.0 and isValid() == 0; a word behind the unit keeps the
+/// value and is invalid all the same. Nothing throws. Reading text holds the
+/// scanner lock; the label is process-wide and unguarded.
+///
+///     ZMillimeter length(ZString("1 inch"));
+///     double(length)            // 25.4
+///     ZString(length)           // "25.4 mm"
+///     length.getStringWithUnits(5)  // "254.0 pt"
+class ZARNEX_API ZMillimeter {
+public:
+    ZMillimeter(double millimeters = 0.0);
+    ZMillimeter(const ZString& text);
+    ZMillimeter(const ZMillimeter& other) = default;
+    ZMillimeter& operator=(const ZMillimeter& other) = default;
+
+    /// Convert and take the validity flag over. A density becomes its stitch
+    /// length, a density of exactly 0.0 the length 0.0.
+    explicit ZMillimeter(const ZCentimeter& length);
+    explicit ZMillimeter(const ZInch& length);
+    explicit ZMillimeter(const ZEmbPoint& length);
+    explicit ZMillimeter(const ZSpi& density);
+    ZMillimeter& operator=(const ZCentimeter& length);
+    ZMillimeter& operator=(const ZInch& length);
+    ZMillimeter& operator=(const ZEmbPoint& length);
+    ZMillimeter& operator=(const ZSpi& density);
+
+    /// The value, whether valid or not.
+    operator double() const;
+
+    int isValid() const;
+    int getUnitId() const; ///< 2
+
+    /// Reads `text` as the constructor does; a number whose unit is missing or
+    /// refused counts in `preferredUnit`, or in millimetres if that is refused.
+    void setStringWithUnits(const ZString& text, int preferredUnit);
+
+    /// Four places wide with the label: two decimals where the hundredths, rounded,
+    /// need them, else one. " 2.5 mm", "2.34 mm".
+    operator ZString();
+
+    /// Kept as is: always one decimal, although the conversion of an object that is
+    /// not const chooses.
+    operator ZString() const;
+
+    /// As the conversion that chooses its decimals.
+    ZString getString() const;
+
+    /// "%*.*lf" and the label.
+    ZString getString(int width, int precision) const;
+    ZString getDensityString(int width, int precision) const;
+
+    /// The length in another unit: 4 inch, 5 point, 6 stitches per inch; any other
+    /// gives the own text.
+    ///
+    /// Kept as is: 3 gives no centimetres but the own text, although ZCentimeter
+    /// renders millimetres.
+    ZString getStringWithUnits(int unit) const;
+
+    /// For unit 2 getDensityString(4, 2), for others getStringWithUnits().
+    ZString getDensityStringWithUnits(int unit) const;
+
+    /// 1 if the values differ by 1e-9 at most.
+    ///
+    /// Kept as is: ZInch and ZCentimeter compare exactly. Not transitive.
+    int operator==(const ZMillimeter& other) const;
+    int operator!=(const ZMillimeter& other) const;
+    int operator<(const ZMillimeter& other) const;
+
+    /// Sets the label of all objects, "mm" at first. It is text, never a format.
+    static void setUnitString(ZString label);
+
+protected:
+    /// Stores `value` converted from `unit` and returns 1; a refused unit or
+    /// density leaves 0.0, invalid, and returns 0.
+    int setValue(double value, int unit);
+
+private:
+    double value_;
+    int valid_;
+};

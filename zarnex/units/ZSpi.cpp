@@ -1,0 +1,135 @@
+#include <zarnex/units/ZSpi.h>
+
+#include <zarnex/units/ZCentimeter.h>
+#include <zarnex/units/ZEmbPoint.h>
+#include <zarnex/units/ZInch.h>
+#include <zarnex/units/ZMillimeter.h>
+#include <zarnex/units/ZMillimeterPerSec.h>
+#include <zarnex/units/internal/display.h>
+#include <zarnex/units/internal/factors.h>
+#include <zarnex/units/internal/reading.h>
+#include <zarnex/units/internal/textAs.h>
+
+using namespace zarnex;
+using namespace zarnex::detail;
+
+ZSpi::ZSpi(double stitchesPerInch) : value_(stitchesPerInch), valid_(1) {}
+
+ZSpi::ZSpi(const ZString& text) : value_(0.0), valid_(1) {
+    setStringWithUnits(text, unitNumber);
+}
+
+ZSpi::~ZSpi() = default;
+
+ZSpi::ZSpi(const ZMillimeter& length) : ZSpi() {
+    *this = length;
+}
+
+ZSpi::ZSpi(const ZMillimeterPerSec& speed) : ZSpi() {
+    *this = speed;
+}
+
+ZSpi::ZSpi(const ZCentimeter& length) : ZSpi() {
+    *this = length;
+}
+
+ZSpi::ZSpi(const ZInch& length) : ZSpi() {
+    *this = length;
+}
+
+ZSpi::ZSpi(const ZEmbPoint& length) : ZSpi() {
+    *this = length;
+}
+
+ZSpi& ZSpi::operator=(const ZMillimeter& length) {
+    value_ = convertAssigned(Target::spi, length, unitMillimeter);
+    valid_ = length.isValid();
+    return *this;
+}
+
+ZSpi& ZSpi::operator=(const ZMillimeterPerSec& speed) {
+    value_ = convertAssigned(Target::spi, speed, unitMillimeterPerSec);
+    valid_ = speed.isValid();
+    return *this;
+}
+
+ZSpi& ZSpi::operator=(const ZCentimeter& length) {
+    value_ = convertAssigned(Target::spi, length, unitCentimeter);
+    valid_ = length.isValid();
+    return *this;
+}
+
+ZSpi& ZSpi::operator=(const ZInch& length) {
+    value_ = convertAssigned(Target::spi, length, unitInch);
+    valid_ = length.isValid();
+    return *this;
+}
+
+ZSpi& ZSpi::operator=(const ZEmbPoint& length) {
+    value_ = length == ZEmbPoint(0.0) ? 0.0 : convertAssigned(Target::spi, length, unitEmbPoint);
+    valid_ = length.isValid();
+    return *this;
+}
+
+ZSpi::operator double() const {
+    return value_;
+}
+
+int ZSpi::isValid() const {
+    return valid_;
+}
+
+int ZSpi::getUnitId() const {
+    return unitSpi;
+}
+
+void ZSpi::setStringWithUnits(const ZString& text, int preferredUnit) {
+    readQuantity(text, preferredUnit, unitSpi, value_, valid_,
+                 [this](double value, int unit) { return setValue(value, unit); });
+}
+
+int ZSpi::setValue(double value, int unit) {
+    return setConverted(Target::spi, value, unit, value_, valid_);
+}
+
+ZSpi::operator ZString() {
+    return getString(3, 1);
+}
+
+ZSpi::operator ZString() const {
+    return getString(3, 1);
+}
+
+ZString ZSpi::getString(int width, int precision) const {
+    return displayText(value_, width, precision, L" spi");
+}
+
+ZString ZSpi::getStringWithUnits(int unit) const {
+    switch (unit) {
+    case unitMillimeter:
+        return textAs<ZMillimeter>(*this);
+    case unitInch:
+        return textAs<ZInch>(*this);
+    case unitEmbPoint:
+        return textAs<ZEmbPoint>(*this);
+    default:
+        return getString(3, 1);
+    }
+}
+
+ZString ZSpi::getDensityStringWithUnits(int unit) const {
+    return unit == unitMillimeter ? ZMillimeter(*this).getDensityString(4, 2)
+                                  : getStringWithUnits(unit);
+}
+
+int ZSpi::operator==(const ZSpi& other) const {
+    return value_ == other.value_;
+}
+
+int ZSpi::operator!=(const ZSpi& other) const {
+    return !(*this == other);
+}
+
+int ZSpi::operator<(const ZSpi& other) const {
+    return value_ < other.value_;
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <zarnex/config.h>
+#include <zarnex/strings/ZString.h>
+#include <zarnex/units/comparison.h>
+
+/// An area, or a number for each of it, in square centimetres, with a validity
+/// flag.
+///
+/// Numbers are stored unchanged and are valid. Text is read as for ZMillimeter;
+/// "per sq cm" is the one unit that is not refused, a bare number counts as it.
+/// Nothing throws. Reading text holds the scanner lock.
+///
+///     ZSquareCentimeter beads(ZString("40 per sq cm")); // "40.0 per sq cm"
+class ZARNEX_API ZSquareCentimeter {
+public:
+    ZSquareCentimeter(double squareCentimeters = 0.0);
+    ZSquareCentimeter(const ZString& text);
+    ZSquareCentimeter(const ZSquareCentimeter& other) = default;
+    ZSquareCentimeter& operator=(const ZSquareCentimeter& other) = default;
+
+    virtual ~ZSquareCentimeter();
+
+    /// The value, whether valid or not.
+    operator double() const;
+
+    int isValid() const;
+    int getUnitId() const; ///< 7
+
+    /// Reads `text` as the constructor does; a number whose unit is missing or
+    /// refused counts as it is.
+    void setStringWithUnits(const ZString& text, int preferredUnit);
+
+    /// "%4.1lf per sq cm".
+    operator ZString();
+    operator ZString() const;
+
+    /// "%*.*lf per sq cm".
+    ZString getString(int width, int precision) const;
+
+    /// The own text for every unit.
+    ZString getStringWithUnits(int unit) const;
+
+    /// 1 if both hold the same double; never for NaN.
+    int operator==(const ZSquareCentimeter& other) const;
+    int operator!=(const ZSquareCentimeter& other) const;
+    int operator<(const ZSquareCentimeter& other) const;
+
+protected:
+    /// As ZMillimeter::setValue().
+    int setValue(double value, int unit);
+
+private:
+    double value_;
+    unsigned char valid_;
+};
