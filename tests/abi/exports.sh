@@ -18,7 +18,7 @@ set -euo pipefail
 export LC_ALL=C
 
 fail() {
-    printf '%s\n' "$*" >&2
+    printf '%s\n' "$@" >&2
     exit 1
 }
 
@@ -53,10 +53,11 @@ list() {
 }
 
 compare() {
-    local names
+    local names changes
     names=$(list "$1")
-    diff --label "$2" --label "$1" --unified=0 "$2" - <<<"$names" ||
-        fail "The exported names have changed. If that is meant: ./dev exports"
+    changes=$(diff --label "$2" --label "$1" --unified=0 "$2" - <<<"$names") ||
+        fail "$(head -n 100 <<<"$changes")" \
+            "The exported names have changed. If that is meant: ./dev exports"
 }
 
 # Names of std::, the compiler's runtime, unnamed namespaces and the library's own inside.
