@@ -9,8 +9,8 @@
 # The tools are taken from NM (for a .so), OBJDUMP (for a DLL) and CXXFILT.
 #
 # The list is the same for both formats and for all compilers:
-# - It leaves out virtual tables, type information and thunks, which each format places by
-#   its own rules. The several constructors and destructors that compilers make of one
+# - It leaves out virtual tables, type information, thunks and the variables of functions,
+#   which each format places by its own rules. The several constructors and destructors that compilers make of one
 #   declaration demangle to one name.
 # - `long long` is written `long`: std::size_t is `unsigned long` on Linux and `unsigned
 #   long long` on Windows. Overloads for both remain two lines.
@@ -44,12 +44,9 @@ mangled() {
 
 list() {
     local names
-    names=$(mangled "$1")
+    names=$(mangled "$1" | grep -vE '^_Z(T|GV|GR|Z)')
     names=$("${CXXFILT:?c++filt is needed}" <<<"$names")
-    sort -u <<<"$names" |
-        grep -vE '^(vtable|VTT|construction vtable|typeinfo|typeinfo name|guard variable) for ' |
-        grep -vE '^(non-virtual|virtual|covariant return) thunk to ' |
-        sed 's/long long/long/g' | sort
+    sort -u <<<"$names" | sed 's/long long/long/g' | sort
 }
 
 compare() {
