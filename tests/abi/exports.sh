@@ -10,8 +10,8 @@
 #
 # The list is the same for both formats and for all compilers:
 # - It leaves out virtual tables, type information, thunks and the variables of functions,
-#   which each format places by its own rules. The several constructors and destructors that compilers make of one
-#   declaration demangle to one name.
+#   which each format places by its own rules. The several constructors and destructors that
+#   compilers make of one declaration demangle to one name.
 # - `long long` is written `long`: std::size_t is `unsigned long` on Linux and `unsigned
 #   long long` on Windows. Overloads for both remain two lines.
 set -euo pipefail

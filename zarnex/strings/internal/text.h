@@ -38,7 +38,8 @@ void copyUnits(Char* out, const Char* text, std::size_t count, std::size_t room)
     if (room == 0)
         return;
     count = (std::min)(count, room - 1);
-    std::memmove(out, text, count * sizeof(Char));
+    if (count != 0) // a text without units may be null
+        std::memmove(out, text, count * sizeof(Char));
     out[count] = Char{};
 }
 
