@@ -57,7 +57,7 @@ compare() {
             "The exported names have changed. If that is meant: ./dev exports"
 }
 
-# Names of std::, the compiler's runtime, unnamed namespaces and the library's own inside.
+# Names of std::, operator new and delete, the compiler's runtime, unnamed namespaces and the library's own inside.
 # The patterns read what stands before the first name: S followed by a small letter is std::
 # or one of the short forms for its classes. A DLL may hold type information of the inside:
 # mingw's compiler exports that of every class derived from an exported one.
@@ -68,6 +68,7 @@ internal() {
     inside=$(grep -E -e '^_Z(T[A-Za-z]|GVZ?|GR|Z)*(N[KVRO]*)?S[a-z]' \
         -e '^_Z(T[A-Za-z]|GVZ?|GR|Z)*N[KVRO]*(9__gnu_cxx|10__cxxabiv1|12_GLOBAL__N_1)' \
         -e '^_Z(T[A-Za-z]|GVZ?|GR|Z)*N[KVRO]*6zarnex(6detail|8platform|12_GLOBAL__N_1)' \
+        -e '^_Z(n[aw]|d[al])' \
         -e '^(_Unwind_|__cxa_|__gcc_|__gxx_|pthread_)' \
         <<<"$names" || true)
     [[ -z $inside ]] || fail "Exported although internal:
