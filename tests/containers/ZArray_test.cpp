@@ -145,7 +145,7 @@ TEST(ZArray, MovesAndCopiesOverlappingRangesLikeAVector) {
         if (step % 2 == 0)
             EXPECT_EQ(array.move(to, from, from + count, kb), 0);
         else
-            EXPECT_EQ(array.copy(from, to, count, static_cast<int>(kb)), 0);
+            EXPECT_EQ(array.copy(to, from, count, static_cast<int>(kb)), 0);
         const std::vector<float> before = model;
         for (int i = 0; i < count; ++i)
             if (from + i >= 0 && to + i >= 0)
@@ -157,7 +157,7 @@ TEST(ZArray, MovesAndCopiesOverlappingRangesLikeAVector) {
 
 TEST(ZArray, TransfersGrowTheBlockOverBothEnds) {
     Floats array(10, 0);
-    fill(array, 8).copy(0, 500, 8, 4);
+    fill(array, 8).copy(500, 0, 8, 4);
     EXPECT_GE(fieldsOf(array).blockBytes, 4u * 508);
     EXPECT_EQ(array[507], 7.0f);
     array.move(0, 900, 901, 4);
@@ -168,25 +168,25 @@ TEST(ZArray, WithoutRoomForAChunkNothingMoves) {
     Floats array(10, 0);
     fill(array, 8);
     EXPECT_EQ(array.move(0, 3, 6, 0), -1);
-    EXPECT_EQ(array.copy(3, 0, 3, 0), -1);
-    EXPECT_EQ(array.copy(3, 0, 3, INT_MIN), -1);
+    EXPECT_EQ(array.copy(0, 3, 3, 0), -1);
+    EXPECT_EQ(array.copy(0, 3, 3, INT_MIN), -1);
     EXPECT_EQ(firstOf(array, 4), (std::vector<float>{0, 1, 2, 3}));
     EXPECT_EQ(fieldsOf(array).cache[1], 0.0f) << "a failed copy does not load the cache";
-    EXPECT_EQ(array.move(0, 6, 3, 0) + array.copy(3, 0, 0, 0) + array.copy(3, 0, -5, 0), 0)
+    EXPECT_EQ(array.move(0, 6, 3, 0) + array.copy(0, 3, 0, 0) + array.copy(0, 3, -5, 0), 0)
         << "empty ranges need no chunk";
 }
 
 TEST(ZArray, FreezeWritesTheCacheOverTheBlock) {
     Floats array(4, 0);
     fill(array, 10);
-    EXPECT_EQ(array.copy(8, 2, 1, 4), 0); // loads the cache: 0, 1, 8, 3
+    EXPECT_EQ(array.copy(2, 8, 1, 4), 0); // loads the cache: 0, 1, 8, 3
     array[0] = 20;
     array[4] = 24;
     EXPECT_EQ(array.freeze(), 0);
     EXPECT_EQ(firstOf(array, 5), (std::vector<float>{0, 1, 8, 3, 24})) << "the 20 is lost";
     array[1] = 21;
     EXPECT_EQ(array.freeze(), 0);
-    EXPECT_EQ(array.copy(0, 9, 1, 4), 0);
+    EXPECT_EQ(array.copy(9, 0, 1, 4), 0);
     EXPECT_EQ(array.restore(), 0);
     EXPECT_EQ(array[1], 21.0f) << "frozen, the block is all there is";
     array[1] = 0;

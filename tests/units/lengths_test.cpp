@@ -1,5 +1,5 @@
 #include "tests/slots.h"
-#include "tests/support.h"
+#include "tests/units/quantityChecks.h"
 
 #include <zarnex/units/ZCentimeter.h>
 #include <zarnex/units/ZEmbPoint.h>
@@ -16,7 +16,6 @@ namespace {
 constexpr double infinity = std::numeric_limits<double>::infinity();
 const double nan = std::nan("");
 
-template <class Quantity>
 struct Reading {
     const wchar_t* text;
     double value;
@@ -24,13 +23,9 @@ struct Reading {
 };
 
 template <class Quantity, std::size_t count>
-void checkReadings(const Reading<Quantity> (&rows)[count]) {
-    for (const auto& row : rows) {
-        SCOPED_TRACE(testing::Message() << ZString(row.text));
-        const Quantity read{ZString(row.text)};
-        EXPECT_EQ(double(read), row.value);
-        EXPECT_EQ(read.isValid(), row.valid);
-    }
+void checkReadings(const Reading (&rows)[count]) {
+    for (const Reading& row : rows)
+        checkRead<Quantity>(row.text, row.value, row.valid);
 }
 
 TEST(ZMillimeter, ReadsTypedText) {
@@ -214,19 +209,6 @@ TEST(Lengths, RenderInOtherUnits) {
         EXPECT_EQ(wide(inch.getDensityStringWithUnits(row.unit)), two ? L"25.40 mm" : row.inch);
         EXPECT_EQ(wide(point.getDensityStringWithUnits(row.unit)), two ? L"25.40 mm" : row.point);
     }
-}
-
-// Assigns `source` to a Target of 7.0 that is valid, and checks what comes out;
-// construction must do the same to a fresh one.
-template <class Target, class Source>
-void checkAssigned(const Source& source, double value) {
-    SCOPED_TRACE(testing::Message()
-                 << "unit " << source.getUnitId() << " to " << Target().getUnitId());
-    Target target(7.0);
-    target = source;
-    EXPECT_EQ(double(target), value);
-    EXPECT_EQ(target.isValid(), source.isValid());
-    EXPECT_EQ(double(Target(source)), value);
 }
 
 TEST(Lengths, ConvertAmongEachOtherByAssignment) {

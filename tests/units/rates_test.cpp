@@ -1,4 +1,4 @@
-#include "tests/support.h"
+#include "tests/units/quantityChecks.h"
 
 #include <zarnex/units/ZCentimeterPerSec.h>
 #include <zarnex/units/ZEmbPoint.h>
@@ -14,14 +14,6 @@
 namespace {
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
-
-template <class Quantity>
-void checkRead(const wchar_t* text, double value, int valid = 1) {
-    SCOPED_TRACE(testing::Message() << ZString(text) << " as unit " << Quantity().getUnitId());
-    const Quantity read{ZString(text)};
-    EXPECT_EQ(double(read), value);
-    EXPECT_EQ(read.isValid(), valid);
-}
 
 TEST(ZSpi, ReadsDensitiesAndStitchLengths) {
     checkRead<ZSpi>(L"6 spi", 6.0);
@@ -133,16 +125,6 @@ TEST(ZSpi, RendersItsStitchLengthInOtherUnits) {
     EXPECT_EQ(wide(ZSpi(25.4).getStringWithUnits(2)), L" 1.0 mm");
     EXPECT_EQ(wide(spi.getDensityStringWithUnits(6)), L"10.0 spi");
     EXPECT_EQ(wide(ZSpi(0.0).getStringWithUnits(5)), L"0.0 pt");
-}
-
-template <class Target, class Source>
-void checkAssigned(const Source& source, double value) {
-    SCOPED_TRACE(testing::Message() << "unit " << source.getUnitId());
-    Target target(7.0);
-    target = source;
-    EXPECT_EQ(double(target), value);
-    EXPECT_EQ(target.isValid(), source.isValid());
-    EXPECT_EQ(double(Target(source)), value);
 }
 
 TEST(Rates, ConvertByAssignment) {

@@ -80,9 +80,7 @@ public:
     /// Copies `count` elements from `from` to `to` as move() does, then loads the
     /// cache. Returns 0, at once for a `count` below 1; -1, copying nothing, if
     /// there is no room for a chunk or `kb` is below 1.
-    ///
-    /// Kept as is: the source stands first here; in move() the target does.
-    int copy(long from, long to, long count, int kb);
+    int copy(long to, long from, long count, int kb);
 
     /// Saves the cache to the block and frees it. Returns 0.
     ///
@@ -197,7 +195,7 @@ int ZArray<T>::move(long to, long from, long end, unsigned int kb) {
 }
 
 template <class T>
-int ZArray<T>::copy(long from, long to, long count, int kb) {
+int ZArray<T>::copy(long to, long from, long count, int kb) {
     const auto elementCount = static_cast<std::int32_t>(count);
     if (elementCount < 1)
         return 0;

@@ -263,7 +263,8 @@ template <class T>
 ZARNEX_TEMPLATE_INLINE void ZXArray<T>::reserve(long long n) {
     if (n <= allocLength_)
         return;
-    growArray(static_cast<int>((std::min)(n, 0LL + (std::numeric_limits<int>::max)())), 1);
+    if (n <= (std::numeric_limits<int>::max)())
+        growArray(static_cast<int>(n), 1);
     if (n > allocLength_)
         zarnex::exitFatally("failed alloc\n", 1);
 }

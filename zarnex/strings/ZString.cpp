@@ -83,7 +83,8 @@ ZString::ZString(const wchar_t* text) {
 ZString::ZString(const wchar_t* text, int n) {
     array_.setStep(growthStep);
     const std::size_t most = notNegative(n);
-    assign(text, text == nullptr ? 0 : textLength(text, most));
+    text = textOrEmpty(text);
+    assign(text, textLength(text, most));
     setUsed(most + 1);
     array_[toInt(most)] = L'\0';
 }

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "tests/support.h"
+
+/// Checks what a quantity class reads from `text`.
+template <class Quantity>
+void checkRead(const wchar_t* text, double value, int valid = 1) {
+    SCOPED_TRACE(testing::Message() << ZString(text) << " as unit " << Quantity().getUnitId());
+    const Quantity read{ZString(text)};
+    EXPECT_EQ(double(read), value);
+    EXPECT_EQ(read.isValid(), valid);
+}
+
+/// Assigns `source` to a valid Target of 7.0 and checks what comes out;
+/// construction must do the same to a fresh one.
+template <class Target, class Source>
+void checkAssigned(const Source& source, double value) {
+    SCOPED_TRACE(testing::Message()
+                 << "unit " << source.getUnitId() << " to " << Target().getUnitId());
+    Target target(7.0);
+    target = source;
+    EXPECT_EQ(double(target), value);
+    EXPECT_EQ(target.isValid(), source.isValid());
+    EXPECT_EQ(double(Target(source)), value);
+}
