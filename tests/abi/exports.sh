@@ -57,10 +57,11 @@ compare() {
             "The exported names have changed. If that is meant: ./dev exports"
 }
 
-# Names of std::, operator new and delete, the compiler's runtime, unnamed namespaces and the library's own inside.
-# The patterns read what stands before the first name: S followed by a small letter is std::
-# or one of the short forms for its classes. A DLL may hold type information of the inside:
-# mingw's compiler exports that of every class derived from an exported one.
+# Names of std::, operator new and delete, the compiler's runtime, unnamed namespaces and the
+# library's own inside. The patterns read what stands before the first name: S followed by a
+# small letter is std:: or one of the short forms for its classes. A DLL may hold type
+# information of the inside: mingw's compiler exports that of every class derived from an
+# exported one.
 internal() {
     local names inside
     names=$(mangled "$1")

@@ -38,8 +38,7 @@ void copyUnits(Char* out, const Char* text, std::size_t count, std::size_t room)
     if (room == 0)
         return;
     count = (std::min)(count, room - 1);
-    if (count != 0) // a text without units may be null
-        std::memmove(out, text, count * sizeof(Char));
+    std::memmove(out, text, count * sizeof(Char));
     out[count] = Char{};
 }
 
