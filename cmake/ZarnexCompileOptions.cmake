@@ -1,12 +1,14 @@
 # What every target of this project is compiled with.
 
+add_library(zarnex-warnings INTERFACE)
+target_compile_options(zarnex-warnings INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion $<$<BOOL:${ZARNEX_WERROR}>:-Werror>)
+
 add_library(zarnex-compile-options INTERFACE)
+target_link_libraries(zarnex-compile-options INTERFACE zarnex-warnings)
 
 # Results are fixed to the bit: no fused multiply-add that the source does not spell out.
 target_compile_options(zarnex-compile-options INTERFACE -ffp-contract=off)
-
-target_compile_options(zarnex-compile-options INTERFACE
-    -Wall -Wextra -Wpedantic -Wshadow -Wconversion $<$<BOOL:${ZARNEX_WERROR}>:-Werror>)
 
 if(ZARNEX_SANITIZE)
     target_compile_options(zarnex-compile-options INTERFACE
