@@ -85,7 +85,7 @@ std::string beyondAscii(std::wstring_view token) {
 }
 
 void addPiece(std::string& pieces, std::wstring_view piece) {
-    constexpr std::wstring_view space = L" \t\r\n\v\f\u00A0";
+    constexpr std::wstring_view space = L" \t\r\n\v\f\u00A0\u2007\u2009\u202F";
     const std::size_t first = piece.find_first_not_of(space);
     if (first == std::wstring_view::npos)
         return;

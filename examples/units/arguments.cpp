@@ -30,7 +30,7 @@ The status is 0 if all texts are valid, 1 if not, 2 if the call, the file or the
 output is at fault.
 
   zarnex-units "2.5 mm"
-  zarnex-units "1 1/2" --check
+  zarnex-units "1 1/2 in" --check
   zarnex-units --unit in --file lengths.txt > lengths.tsv
 )";
 
@@ -73,11 +73,10 @@ Arguments parseArguments(const std::vector<std::string>& given) {
             setTask(Task::check);
         } else if (text == "-") {
             setTask(Task::table);
+            arguments.file = text;
         } else if (text == "--file") {
             setTask(Task::table);
             arguments.file = value();
-            if (arguments.file == "-")
-                arguments.file.clear();
         } else if (text == "--unit") {
             arguments.bareUnit = unitFrom(value());
             arguments.bareUnitGiven = true;

@@ -14,7 +14,7 @@ struct Arguments {
 
     Task task = Task::list;
     std::vector<std::string> texts;        ///< to list or check
-    std::string file;                      ///< to make a table of; empty is the standard input
+    std::string file;                      ///< to make a table of; "-" is the standard input
     int bareUnit = zarnex::unitMillimeter; ///< what a bare number counts in
     bool bareUnitGiven = false;
     int to = zarnex::unitNone; ///< the one unit to list; unitNone for all

@@ -39,7 +39,7 @@ Status list(const std::string& text, const Arguments& arguments, bool heading, O
     }
     const std::string unit = unitName(reading.unit);
     if (!reading.ignored.empty())
-        messages.say(quoted(text) + ": read as " + numberText(reading.number) + ' ' + unit +
+        messages.say(quoted(text) + ": read as " + digitsOf(reading.number) + ' ' + unit +
                      ", ignored " + quoted(reading.ignored));
 
     const std::string lines = listed(reading.quantity, arguments.to);
@@ -78,7 +78,7 @@ bool isSkipped(std::string_view line) {
 
 Status makeTable(const Arguments& arguments, Output& output, Messages& messages) {
     Status status = allValid;
-    const bool fromStandardInput = arguments.file.empty();
+    const bool fromStandardInput = arguments.file == "-";
     const std::string name = fromStandardInput ? "standard input" : shown(arguments.file, 200);
     try {
         LineReader reader(fromStandardInput ? 0 : platform::openFile(arguments.file), mostBytes,

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <optional>
 #include <vector>
 
@@ -36,9 +37,12 @@ std::string displayText(const ZMillimeterPerSec& speed) {
 }
 
 void appendNumber(std::string& out, double number) {
+    const double size = std::fabs(number);
+    const bool plain = number == 0.0 || (size >= 1e-5 && size < 1e15);
     char digits[32]; // the longest double takes 24
-    const auto end = std::to_chars(digits, digits + sizeof digits, number).ptr;
-    out.append(digits, end);
+    char* const end = digits + sizeof digits;
+    out.append(digits, plain ? std::to_chars(digits, end, number, std::chars_format::fixed).ptr
+                             : std::to_chars(digits, end, number).ptr);
 }
 
 // `text` with blanks up to `width`, in front or behind.
@@ -49,7 +53,7 @@ std::string padded(const std::string& text, std::size_t width, bool inFront) {
 
 } // namespace
 
-std::string numberText(double number) {
+std::string digitsOf(double number) {
     std::string out;
     appendNumber(out, number);
     return out;
@@ -63,7 +67,7 @@ std::string listed(const Quantity& quantity, int to) {
     inEveryUnit(quantity, [&](const auto& own) {
         const int unit = own.getUnitId();
         if (own.isValid() && (to == zarnex::unitNone || to == unit))
-            rows.push_back({unitName(unit), displayText(own), numberText(own)});
+            rows.push_back({unitName(unit), displayText(own), digitsOf(own)});
     });
 
     std::size_t unitWidth = 0;
@@ -84,7 +88,7 @@ std::string checked(std::string_view text, const Reading& reading) {
     if (!reading.problem.empty())
         out += ", " + reading.problem;
     if (!reading.numberText.empty()) {
-        out += "; number " + numberText(reading.number) + " from " + quoted(reading.numberText);
+        out += "; number " + digitsOf(reading.number) + " from " + quoted(reading.numberText);
         if (reading.unitText.empty())
             out += "; no unit, so " + std::string(unitName(reading.unit));
         else

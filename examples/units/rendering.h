@@ -25,7 +25,8 @@ std::string tableHeader();
 void appendTableRow(std::string& out, long long line, std::string_view text,
                     const Reading& reading);
 
-/// A number in the fewest digits that read back the same: "2.5", "1e+99".
-std::string numberText(double number);
+/// A number in the fewest digits that read back the same: "2.5", and with an
+/// exponent below 1e-5 and from 1e15 on.
+std::string digitsOf(double number);
 
 } // namespace units
