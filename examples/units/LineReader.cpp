@@ -1,0 +1,52 @@
+#include "LineReader.h"
+
+#include "platform.h"
+
+#include <utility>
+
+namespace units {
+
+namespace {
+
+constexpr std::size_t chunkSize = 1 << 16;
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
+} // namespace
+
+LineReader::LineReader(int file, std::size_t mostBytes, std::function<void()> beforeWaiting)
+    : file_(file), mostKept_(byteOrderMark.size() + mostBytes + sizeof "\r"),
+      beforeWaiting_(std::move(beforeWaiting)), chunk_(chunkSize) {}
+
+bool LineReader::fill() {
+    if (!atEnd_) {
+        beforeWaiting_();
+        rest_ = {chunk_.data(), platform::readSome(file_, chunk_.data(), chunk_.size())};
+        atEnd_ = rest_.empty();
+    }
+    return !atEnd_;
+}
+
+bool LineReader::next(std::string_view& line) {
+    constexpr std::size_t none = std::string_view::npos;
+    if (rest_.empty() && !fill())
+        return false;
+    broken_.clear();
+    std::size_t feed = none;
+    do {
+        feed = rest_.find('\n');
+        line = rest_.substr(0, feed);
+        rest_.remove_prefix(feed == none ? rest_.size() : feed + 1);
+        if (feed == none || !broken_.empty()) {
+            broken_ += line.substr(0, mostKept_ - broken_.size());
+            line = broken_;
+        }
+    } while (feed == none && fill());
+
+    if (++lineNumber_ == 1 && line.substr(0, byteOrderMark.size()) == byteOrderMark)
+        line.remove_prefix(byteOrderMark.size());
+    if (!line.empty() && line.back() == '\r')
+        line.remove_suffix(1);
+    return true;
+}
+
+} // namespace units

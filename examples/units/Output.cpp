@@ -1,0 +1,33 @@
+#include "Output.h"
+
+#include "platform.h"
+
+#include <cstddef>
+#include <stdexcept>
+#include <system_error>
+
+namespace units {
+
+namespace {
+
+constexpr std::size_t mostAtOnce = 4096;
+constexpr int standardOutput = 1;
+
+} // namespace
+
+void Output::add(std::string_view lines) {
+    if (waiting_.size() + lines.size() > mostAtOnce)
+        flush();
+    waiting_ += lines;
+}
+
+void Output::flush() {
+    try {
+        platform::writeAll(standardOutput, waiting_.data(), waiting_.size());
+    } catch (const std::system_error& error) {
+        throw std::runtime_error("cannot write the output: " + error.code().message());
+    }
+    waiting_.clear();
+}
+
+} // namespace units

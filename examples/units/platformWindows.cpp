@@ -1,0 +1,96 @@
+#include "platform.h"
+
+#include <cerrno>
+#include <system_error>
+
+#include <windows.h>
+
+#include <fcntl.h>
+#include <io.h>
+#include <shellapi.h>
+
+namespace units::platform {
+
+namespace {
+
+/// Lets a console show UTF-8 until the program ends.
+class ConsoleCodePage {
+public:
+    ConsoleCodePage() : before_(GetConsoleOutputCP()) {
+        SetConsoleOutputCP(CP_UTF8);
+    }
+    ~ConsoleCodePage() {
+        SetConsoleOutputCP(before_);
+    }
+
+private:
+    UINT before_;
+};
+
+[[noreturn]] void fail() {
+    throw std::system_error(errno, std::generic_category());
+}
+
+std::string narrow(const wchar_t* text) {
+    const int room = WideCharToMultiByte(CP_UTF8, 0, text, -1, nullptr, 0, nullptr, nullptr);
+    std::string out(static_cast<std::size_t>(room > 0 ? room : 1), '\0');
+    WideCharToMultiByte(CP_UTF8, 0, text, -1, out.data(), room, nullptr, nullptr);
+    out.pop_back(); // the terminator
+    return out;
+}
+
+std::wstring widen(const std::string& text) {
+    const int room = MultiByteToWideChar(CP_UTF8, 0, text.c_str(), -1, nullptr, 0);
+    std::wstring out(static_cast<std::size_t>(room > 0 ? room : 1), L'\0');
+    MultiByteToWideChar(CP_UTF8, 0, text.c_str(), -1, out.data(), room);
+    out.pop_back();
+    return out;
+}
+
+} // namespace
+
+void prepareStreams() {
+    for (const int file : {0, 1, 2})
+        _setmode(file, _O_BINARY);
+    static const ConsoleCodePage utf8;
+}
+
+std::vector<std::string> arguments(int, char**) {
+    std::vector<std::string> texts;
+    int count = 0;
+    wchar_t** const wide = CommandLineToArgvW(GetCommandLineW(), &count);
+    for (int i = 1; wide != nullptr && i < count; ++i)
+        texts.push_back(narrow(wide[i]));
+    LocalFree(wide);
+    return texts;
+}
+
+int openFile(const std::string& path) {
+    const int file = _wopen(widen(path).c_str(), _O_RDONLY | _O_BINARY);
+    if (file < 0)
+        fail();
+    return file;
+}
+
+std::size_t readSome(int file, char* bytes, std::size_t room) {
+    const int count = _read(file, bytes, static_cast<unsigned>(room));
+    if (count < 0)
+        fail();
+    return static_cast<std::size_t>(count);
+}
+
+void writeAll(int file, const char* bytes, std::size_t count) {
+    while (count > 0) {
+        const int written = _write(file, bytes, static_cast<unsigned>(count));
+        if (written < 0)
+            fail();
+        bytes += written;
+        count -= static_cast<std::size_t>(written);
+    }
+}
+
+bool isTerminal(int file) {
+    return _isatty(file) != 0;
+}
+
+} // namespace units::platform
