@@ -8,18 +8,24 @@
 
 #include <clocale>
 #include <ostream>
+#include <sstream>
 #include <string>
 
-/// Shows a string as text when a check fails; its own output is numbers.
-inline void PrintTo(const ZString& text, std::ostream* out) {
-    *out << '"';
-    for (const wchar_t* unit = text; *unit != L'\0'; ++unit) {
-        if (*unit >= 32 && *unit < 127)
-            *out << static_cast<char>(*unit);
+/// A text as bytes, for messages of failed checks.
+inline std::string shown(const wchar_t* text) {
+    std::ostringstream out;
+    for (; text != nullptr && *text != L'\0'; ++text) {
+        if (*text >= 32 && *text < 127)
+            out << static_cast<char>(*text);
         else
-            *out << "\\x" << std::hex << static_cast<unsigned long>(*unit) << std::dec;
+            out << "\\x" << std::hex << static_cast<unsigned long>(*text) << std::dec;
     }
-    *out << '"';
+    return out.str();
+}
+
+/// What failed checks print of a string; its own output is numbers.
+inline void PrintTo(const ZString& text, std::ostream* out) {
+    *out << '"' << shown(text) << '"';
 }
 
 /// The text of a string as the standard library's type, for exact comparison.

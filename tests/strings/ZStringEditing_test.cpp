@@ -31,7 +31,7 @@ TEST(ZString, FindsText) {
         {null, 3, 0, 6},   {L"abcABCd", 0, 0, -1}, {L"abcabc", 0, 1, 0},  {L"C", 5, 0, 5},
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE(testing::Message() << ZString(row.wanted) << " from " << row.start);
+        SCOPED_TRACE(testing::Message() << shown(row.wanted) << " from " << row.start);
         EXPECT_EQ(string.findString(row.wanted, row.start, row.ignoreCase), row.found);
     }
     EXPECT_EQ(ZString().findString(L"a", -3, 0), -1);
@@ -50,7 +50,7 @@ TEST(ZString, FindsOneOfASet) {
         {L"", L"", 0, 0, 0, 0},
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE(testing::Message() << ZString(row.set) << " from " << row.start);
+        SCOPED_TRACE(testing::Message() << shown(row.set) << " from " << row.start);
         const ZString string(row.text);
         EXPECT_EQ(string.findOneOf(row.set, row.start, row.invert), row.found);
         EXPECT_EQ(string.findOneOfByUnicode(row.set, row.start, row.invert), row.byUnicode);
@@ -80,7 +80,7 @@ TEST(ZString, ReplacesFromLeftToRightWithoutSearchingTheReplacement) {
         {L"", L"a", L"x", L""},       {L"a.b.", L".", L"--", L"a--b--"},
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE(testing::Message() << ZString(row.text) << " " << ZString(row.find));
+        SCOPED_TRACE(testing::Message() << shown(row.text) << " " << shown(row.find));
         ZString string(row.text);
         string.findAndReplace(row.find, row.replace);
         EXPECT_EQ(wide(string), row.result);
@@ -146,7 +146,7 @@ TEST(ZString, TrimsBlanksTabsAndLineEnds) {
         {L"\v\u00A0x\v", L"\v\u00A0x\v", L"\v\u00A0x\v"}, // other white space stays
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE(testing::Message() << ZString(row.text));
+        SCOPED_TRACE(testing::Message() << shown(row.text));
         ZString left(row.text);
         left.resize(40);
         left.trimLeft();

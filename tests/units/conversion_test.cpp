@@ -78,7 +78,7 @@ TEST(EvaluateRenderedQuantity, ReadsInTheUnitOrAsInteger) {
         {6, L"0 mm", std::numeric_limits<double>::infinity()},
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE(testing::Message() << row.unit << " " << ZString(row.text));
+        SCOPED_TRACE(testing::Message() << row.unit << " " << shown(row.text));
         EXPECT_EQ(evaluateRenderedQuantity(row.unit, row.text), row.value);
     }
 }

@@ -115,7 +115,7 @@ TEST(ReadingQuantities, ANumberWithoutUnitCountsInThePreferredUnitIfThatIsTaken)
         {L"2 per sq cm", 4, 2 * 25.4},
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE(testing::Message() << ZString(row.text) << " " << row.preferred);
+        SCOPED_TRACE(testing::Message() << shown(row.text) << " " << row.preferred);
         ZMillimeter length(nan);
         length.setStringWithUnits(row.text, row.preferred);
         EXPECT_EQ(double(length), row.millimeters);

@@ -5,7 +5,7 @@
 /// Checks what a quantity class reads from `text`.
 template <class Quantity>
 void checkRead(const wchar_t* text, double value, int valid = 1) {
-    SCOPED_TRACE(testing::Message() << ZString(text) << " as unit " << Quantity().getUnitId());
+    SCOPED_TRACE(testing::Message() << shown(text) << " as unit " << Quantity().getUnitId());
     const Quantity read{ZString(text)};
     EXPECT_EQ(double(read), value);
     EXPECT_EQ(read.isValid(), valid);
