@@ -1,3 +1,5 @@
+cmake_minimum_required(VERSION 3.25)
+
 # expect(STATUS <status> [OUT <text>] [ERR <text>] [IN <file>] ARGS <argument>...)
 #
 # Runs the program in DATA and compares what it writes and returns; without OUT or ERR
@@ -10,9 +12,12 @@ function(expect)
     if(DEFINED want_IN)
         set(input INPUT_FILE ${want_IN})
     endif()
+    # Through files: pipes would stay open for as long as Wine's server lives.
     execute_process(COMMAND ${PROGRAM} ${want_ARGS} ${input}
-        WORKING_DIRECTORY ${DATA}
-        RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE errors)
+        WORKING_DIRECTORY ${DATA} RESULT_VARIABLE status
+        OUTPUT_FILE ${SCRATCH}/${TOPIC}.out ERROR_FILE ${SCRATCH}/${TOPIC}.err)
+    file(READ ${SCRATCH}/${TOPIC}.out output)
+    file(READ ${SCRATCH}/${TOPIC}.err errors)
     set(output "${output}" PARENT_SCOPE)
 
     list(JOIN want_ARGS "' '" call)

@@ -55,8 +55,9 @@ expect(STATUS 0 ARGS --file ${SCRATCH}/valid.txt OUT "${header}")
 expect(STATUS 2 ARGS --file no.txt ERR "${name}: cannot read no.txt: No such file or directory\n")
 expect(STATUS 2 ARGS --file . OUT_MATCHES "^(line.*)?$" ERR_MATCHES "^${name}: cannot read .: [^\n]+\n$")
 if(EXISTS /dev/full)
-    execute_process(COMMAND ${PROGRAM} --file quantities.txt OUTPUT_FILE /dev/full
-        WORKING_DIRECTORY ${DATA} RESULT_VARIABLE status ERROR_VARIABLE errors)
+    execute_process(COMMAND ${PROGRAM} --file quantities.txt WORKING_DIRECTORY ${DATA}
+        RESULT_VARIABLE status OUTPUT_FILE /dev/full ERROR_FILE ${SCRATCH}/full.err)
+    file(READ ${SCRATCH}/full.err errors)
     if(NOT status EQUAL 2 OR NOT errors MATCHES "${name}: cannot write the output: [^\n]+\n$")
         message(SEND_ERROR "full device: status ${status}\n${errors}")
     endif()
