@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 #include <limits>
 #include <new>
 #include <random>
@@ -21,6 +23,20 @@ Sorted sorted(const std::vector<int>& values, int ascending) {
     for (const int value : values)
         list.add(value);
     return list;
+}
+
+TEST(ZSortList, AddsOneFieldAfterThoseOfTheList) {
+    struct Fields {
+        const void* table;
+        const void* head;
+        std::uint32_t count;
+        int ascending;
+    } fields;
+    static_assert(sizeof(Fields) == sizeof(Sorted));
+    const Sorted list(7);
+    std::memcpy(&fields, static_cast<const void*>(&list), sizeof fields);
+    EXPECT_EQ(fields.ascending, 7);
+    static_assert(sizeof(ZList<int>::iterator) == 2 * sizeof(void*));
 }
 
 // Ordered by `key` alone; `serial` tells equal ones apart.

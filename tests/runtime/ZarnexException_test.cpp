@@ -21,6 +21,7 @@ TEST(ZarnexException, EachConstructorFillsWhatItIsNotGiven) {
     const ZarnexException full("bad", 5, &source);
     const ZarnexException sourced("bad", &source);
     const ZarnexException silent("", 5, &source);
+    const ZarnexException zero(0, nullptr);
     const struct {
         const ZarnexException& exception;
         const char* what;
@@ -32,6 +33,7 @@ TEST(ZarnexException, EachConstructorFillsWhatItIsNotGiven) {
         {full, "bad", 5, &source},
         {sourced, "bad", -1, &source},
         {silent, "No Exception Message Set", 5, &source},
+        {zero, "No Exception Message Set", 0, nullptr},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(testing::Message() << row.what << " " << row.code);

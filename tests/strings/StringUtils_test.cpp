@@ -186,6 +186,10 @@ TEST(StringUtils, PathsSplitAtTheLastColonSeparatorAndDot) {
         EXPECT_EQ(std::string(wideName, wideName + std::wcslen(wideName)),
                   std::string(row.name).substr(0, 2));
     }
+    char own[40] = "C:\\dir\\file.txt"; // an output may be the path itself
+    char ownDir[20];
+    StringUtils::splitPath(own, own, 40, ownDir, 20, nullptr, 0, nullptr, 0);
+    EXPECT_STREQ(ownDir, "\\dir\\");
     std::string endless(300, 'x');
     endless[258] = '.';
     endless[259] = '/'; // past the 259 units that count

@@ -30,6 +30,9 @@ TEST(ZStringSet, FormatsNumbers) {
     EXPECT_EQ(formatted(L"%hd %hhd %hu %hhx", 65537, 257, 65537, 0x1FF), L"1 1 1 ff");
     EXPECT_EQ(formatted(L"%ld %lld %I64d %zu", -1L, LLONG_MIN, LLONG_MAX, std::size_t{7}),
               L"-1 -9223372036854775808 9223372036854775807 7");
+    EXPECT_EQ(formatted(L"%I32d %Iu %jd %td %d", 7, std::size_t{8}, std::intmax_t{-9},
+                        std::ptrdiff_t{-1}, 2),
+              L"7 8 -9 -1 2");
     EXPECT_EQ(formatted(L"%*d|%*d|%-*d", 4, 7, -4, 7, 4, 7), L"   7|7   |7   ");
     EXPECT_EQ(formatted(L"%p", reinterpret_cast<void*>(std::uintptr_t{0xABC})),
               L"0000000000000ABC");
@@ -75,7 +78,8 @@ TEST(ZStringSet, FormatsTextOfBothTypes) {
                         static_cast<wchar_t*>(nullptr), static_cast<char*>(nullptr)),
               L"(null)|(nu|(null)");
     const wchar_t open[2] = {L'a', L'b'}; // not terminated
-    EXPECT_EQ(formatted(L"%.2s|%.1S", open, "xyz"), L"ab|x");
+    const char openBytes[1] = {'x'};
+    EXPECT_EQ(formatted(L"%.2s|%.1S|%ws|%.1Lf", open, openBytes, L"w", 2.5L), L"ab|x|w|2.5");
 }
 
 TEST(ZStringSet, CopiesWhatItDoesNotKnow) {

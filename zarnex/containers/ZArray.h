@@ -93,7 +93,8 @@ public:
     /// process with status 1.
     int restore();
 
-    /// Brings the block back to its first size. Returns 0.
+    /// Brings the block back to its first size. Returns 0. Without room for it the
+    /// process ends through abort(), as wherever the block changes its size.
     int reset();
 
     /// The constructor's two arguments together, in 32 bits; bounds nothing.

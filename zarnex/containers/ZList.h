@@ -13,8 +13,9 @@
 ///
 /// A circular, doubly linked list of one heap node an element. Adding at either
 /// end and joining whole lists take constant time; access by position walks from
-/// the nearer end. References and iterators stay valid until their own element
-/// is removed. At most 2^31 - 1 elements. Not safe for concurrent modification.
+/// the nearer end. References stay valid until their own element is removed,
+/// iterators also only as long as it stays in this list: not past join(), inject(),
+/// += or a move. At most 2^31 - 1 elements. Not safe for concurrent modification.
 ///
 ///     ZList<int> sizes{30, 10};
 ///     sizes.add(20);          // [30, 10, 20]

@@ -3,7 +3,6 @@
 #include <zarnex/config.h>
 #include <zarnex/containers/ZList.h>
 
-#include <limits>
 #include <type_traits>
 #include <utility>
 
@@ -63,14 +62,14 @@ public:
     const T& operator[](int i) const;
     const T& operator()(int i) const;
 
-    /// The same for every other integer type.
+    /// The same for every other integer type, as an int.
     template <class Index, std::enable_if_t<std::is_integral_v<Index>, int> = 0>
     T& operator[](Index i) {
-        return get(toInt(i));
+        return get(static_cast<int>(i));
     }
     template <class Index, std::enable_if_t<std::is_integral_v<Index>, int> = 0>
     const T& operator[](Index i) const {
-        return get(toInt(i));
+        return get(static_cast<int>(i));
     }
 
     /// The first slot; null without storage.
@@ -157,17 +156,7 @@ protected:
     void growArray(int n, int useRule);
 
 private:
-    template <class Index>
-    static int toInt(Index i) {
-        if constexpr (std::is_signed_v<Index>) {
-            if (i < 0)
-                return 0;
-        }
-        constexpr auto most = static_cast<unsigned long long>((std::numeric_limits<int>::max)());
-        return static_cast<unsigned long long>(i) > most ? (std::numeric_limits<int>::max)()
-                                                         : static_cast<int>(i);
-    }
-
+    static T& store(T& slot, const T& value);
     void extendTo(int i);
 
     T* data_;

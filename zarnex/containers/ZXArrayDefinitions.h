@@ -137,7 +137,7 @@ ZARNEX_TEMPLATE_INLINE ZXArray<T>::operator const T*() const {
 template <class T>
 ZARNEX_TEMPLATE_INLINE void ZXArray<T>::set(int i, const T& value) {
     if ((std::max)(i, 0) < length_) {
-        get(i) = value;
+        store(get(i), value);
     } else {
         const T copy(value); // growing may free the storage that holds `value`
         get(i) = copy;
@@ -151,7 +151,7 @@ ZARNEX_TEMPLATE_INLINE T& ZXArray<T>::add(const T& value) {
         extendTo(length_);
         return data_[length_ - 1] = copy;
     }
-    return data_[length_++] = value;
+    return store(data_[length_++], value);
 }
 
 template <class T>
@@ -245,7 +245,8 @@ void ZXArray<T>::setSize(int n) {
         std::fill(data_ + n, data_ + length_, empty_);
     else if (n > allocLength_)
         growArray(n, 1);
-    length_ = (std::min)(n, allocLength_);
+    if (n <= allocLength_)
+        length_ = n;
 }
 
 template <class T>
@@ -254,9 +255,9 @@ void ZXArray<T>::resize(int n) {
     const int slots = getGrowSize(n);
     if (n < length_ && slots > length_)
         std::fill(data_ + n, data_ + length_, empty_);
-    length_ = n;
     growArray(slots, 0);
-    length_ = (std::min)(length_, allocLength_);
+    if (n <= allocLength_)
+        length_ = n;
 }
 
 template <class T>
@@ -278,7 +279,7 @@ void ZXArray<T>::setAllocSize(int n) {
 
 template <class T>
 void ZXArray<T>::setEmpty(const T& value) {
-    empty_ = value;
+    store(empty_, value);
     emptySet_ = 1;
     std::fill(data_ + length_, data_ + allocLength_, empty_);
 }
@@ -364,6 +365,14 @@ void ZXArray<T>::growArray(int n, int useRule) {
         data_ = storage;
         allocLength_ = slots;
     }
+}
+
+// Assigning an element to itself is left out: a list would be empty after it.
+template <class T>
+ZARNEX_TEMPLATE_INLINE T& ZXArray<T>::store(T& slot, const T& value) {
+    if (&slot != &value)
+        slot = value;
+    return slot;
 }
 
 // The slow half of get(): makes slot `i`, at or past the length, the last one.

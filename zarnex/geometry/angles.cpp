@@ -23,9 +23,9 @@ double clockwiseFromUp(Pair direction) {
     return std::atan2(direction.x, direction.y);
 }
 
-double cornerAngle(Pair a, Pair b, Pair c) {
-    using zarnex::detail::offset;
-    double r = clockwiseFromUp(offset(a, b)) - clockwiseFromUp(offset(c, b));
+// From the directions in which `a` and `c` see the corner.
+double cornerAngle(Pair fromA, Pair fromC) {
+    double r = clockwiseFromUp(fromA) - clockwiseFromUp(fromC);
     if (r <= -straightAngle)
         r += fullTurn;
     if (r > straightAngle)
@@ -44,15 +44,16 @@ double atan3(double y, double x) {
 }
 
 double angleRad(const DPoint& a, const DPoint& b, const DPoint& c) {
-    return cornerAngle(widened(a), widened(b), widened(c));
+    return cornerAngle(widened(b - a), widened(b - c));
 }
 
 double angleRad(const IPoint& a, const IPoint& b, const IPoint& c) {
-    return cornerAngle(widened(a), widened(b), widened(c));
+    return cornerAngle(widened(b - a), widened(b - c));
 }
 
 double angleRad(const ZCoord<short>& a, const ZCoord<short>& b, const ZCoord<short>& c) {
-    return cornerAngle(widened(a), widened(b), widened(c));
+    using zarnex::detail::offset;
+    return cornerAngle(offset(widened(a), widened(b)), offset(widened(c), widened(b)));
 }
 
 double angle(const DPoint& a, const DPoint& b, const DPoint& c) {

@@ -18,7 +18,10 @@ ZARNEX_API double atan3(double y, double x);
 /// The signed angle at the corner `b`, in radians: from the direction to `a` round to
 /// the direction to `c`, above 0 counter-clockwise, from -pi to pi. A straight line may
 /// have either. A point that coincides with `b` counts as lying straight below it.
-/// Differences of integer points do not wrap. NaN with a NaN.
+/// NaN with a NaN.
+///
+/// Kept as is: differences of IPoint are 32-bit integers and wrap, those of 16-bit
+/// points do not. Directions are measured from the +y axis, clockwise.
 ///
 /// Kept as is: a difference of two directions outside (-3.141592654, 3.141592654] is
 /// brought back by 6.283185308, full turns of a short pi, so that an angle over such a

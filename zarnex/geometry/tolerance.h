@@ -3,7 +3,8 @@
 /// Comparisons within a tolerance.
 ///
 /// Every function returns 1 or 0. A comparison with a NaN gives 0 unless said, as does a
-/// negative tolerance. A tolerance in double is 1e-9 where the caller names none.
+/// negative tolerance except in isPointInBox. A tolerance in double is 1e-9 where the
+/// caller names none.
 ///
 /// Kept as is: every bound is inclusive, although == of the points has a strict one, and
 /// a test of two points is a box test, coordinate by coordinate, not one of their

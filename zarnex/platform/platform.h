@@ -32,7 +32,8 @@ int bytesToWide(unsigned int codePage, const char* text, int count, wchar_t* out
 int wideToBytes(unsigned int codePage, const wchar_t* text, int count, char* out, int room);
 
 /// The number of bytes of the character of the system code page that starts at
-/// `text`; 1 at the terminator and for a sequence cut short by it.
+/// `text`, and 1 at the terminator. Never counts a terminator to a character; an
+/// ill-formed sequence counts as what becomes one U+FFFD.
 int characterBytes(const char* text);
 
 /// Sets metrics.cbSize to 504 and reads the system's non-client metrics into the

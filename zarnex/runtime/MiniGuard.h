@@ -8,7 +8,7 @@
 class ZARNEX_API MiniGuard {
 public:
     /// Takes `lock`, which must outlive the guard.
-    explicit MiniGuard(MiniLock& lock);
+    MiniGuard(MiniLock& lock);
 
     /// Releases the lock.
     virtual ~MiniGuard();

@@ -17,7 +17,7 @@
 class ZARNEX_API ZRefCount {
 public:
     /// One reference to `shared`, which is not owned.
-    explicit ZRefCount(void* shared);
+    ZRefCount(void* shared);
 
     /// Frees nothing.
     ~ZRefCount();

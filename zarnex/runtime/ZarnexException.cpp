@@ -5,7 +5,7 @@ namespace {
 constexpr char noMessage[] = "No Exception Message Set";
 
 std::string messageOrDefault(const char* message) {
-    return *message == '\0' ? noMessage : message;
+    return message == nullptr || *message == '\0' ? noMessage : message;
 }
 
 } // namespace
@@ -14,6 +14,9 @@ ZarnexException::ZarnexException() : message_(noMessage) {}
 
 ZarnexException::ZarnexException(long code, void* source)
     : source_(source), message_(noMessage), code_(static_cast<std::int32_t>(code)) {}
+
+ZarnexException::ZarnexException(int code, void* source)
+    : ZarnexException(static_cast<long>(code), source) {}
 
 ZarnexException::ZarnexException(const char* message, long code, void* source)
     : source_(source), message_(messageOrDefault(message)), code_(static_cast<std::int32_t>(code)) {
@@ -30,7 +33,7 @@ ZarnexException& ZarnexException::operator=(const ZarnexException& other) {
     if (this != &other) {
         source_ = other.sourceObject();
         code_ = static_cast<std::int32_t>(other.errCode());
-        message_ = other.what();
+        message_ = messageOrDefault(other.what());
     }
     return *this;
 }

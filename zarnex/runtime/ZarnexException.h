@@ -20,9 +20,10 @@ public:
 
     /// "No Exception Message Set" with a code and a source.
     ZarnexException(long code, void* source);
+    ZarnexException(int code, void* source); // or 0 would be a message too
 
-    /// An empty `message` becomes "No Exception Message Set"; null is not
-    /// accepted. `code` is kept in 32 bits. `source` is not owned.
+    /// An empty or null `message` becomes "No Exception Message Set". `code` is kept in 32 bits.
+    /// `source` is not owned.
     ZarnexException(const char* message, long code, void* source);
 
     /// The same with code -1.

@@ -71,6 +71,7 @@ ZString::ZString() {
 }
 
 ZString::ZString(int n, int step) : array_(toInt(notNegative(n) + 1), step) {
+    setUsed(notNegative(n) + 1); // done unless the allocation failed
     array_[0] = L'\0';
 }
 
@@ -101,7 +102,10 @@ ZString::ZString(const char* text, int n) {
     StringUtils::copyString(static_cast<wchar_t*>(array_), textOrEmpty(text), slots);
 }
 
-ZString::ZString(const ZString& other) = default;
+ZString::ZString(const ZString& other) : array_(other.array_) {
+    if (array_.allocLength() < other.array_.allocLength())
+        zarnex::exitFatally("failed alloc\n", 1);
+}
 
 ZString::ZString(ZString&& other) noexcept {
     array_.setStep(growthStep);
@@ -281,28 +285,44 @@ ZString ZString::operator+(int number) const {
 
 // ---- Comparison
 
+int ZString::compare(const ZString& other) const {
+    return caselessOrder(text(), other.text());
+}
+
+int ZString::compare(const wchar_t* other) const {
+    return caselessOrder(text(), textOrEmpty(other));
+}
+
 int ZString::operator==(const ZString& other) const {
-    return caselessOrder(text(), other.text()) == 0;
+    return compare(other) == 0;
 }
 
 int ZString::operator==(const wchar_t* other) const {
-    return caselessOrder(text(), textOrEmpty(other)) == 0;
+    return compare(other) == 0;
 }
 
 int ZString::operator!=(const ZString& other) const {
-    return !(*this == other);
+    return compare(other) != 0;
 }
 
 int ZString::operator!=(const wchar_t* other) const {
-    return !(*this == other);
+    return compare(other) != 0;
 }
 
 int ZString::operator<(const ZString& other) const {
-    return caselessOrder(text(), other.text()) < 0;
+    return compare(other) < 0;
 }
 
 int ZString::operator>(const ZString& other) const {
-    return caselessOrder(text(), other.text()) > 0;
+    return compare(other) > 0;
+}
+
+int ZString::operator<=(const ZString& other) const {
+    return compare(other) <= 0;
+}
+
+int ZString::operator>=(const ZString& other) const {
+    return compare(other) >= 0;
 }
 
 int ZString::isEqual(const ZString& other) const {

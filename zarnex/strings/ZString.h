@@ -50,6 +50,8 @@ public:
 
     /// Copies the whole array: slots in use, allocation, step and contents.
     ZString(const ZString& other);
+
+    /// Leaves `other` empty and without storage, ready for use.
     ZString(ZString&& other) noexcept;
 
     /// Takes the slots in use and the text of `other`, cut to those slots.
@@ -81,14 +83,14 @@ public:
     /// The same without growing: past the allocation a zero.
     const wchar_t& operator[](int i) const;
 
-    /// The same for every other integer type.
+    /// The same for every other integer type, as an int.
     template <class Index, std::enable_if_t<std::is_integral_v<Index>, int> = 0>
     wchar_t& operator[](Index i) {
-        return (*this)[narrowed(i)];
+        return (*this)[static_cast<int>(i)];
     }
     template <class Index, std::enable_if_t<std::is_integral_v<Index>, int> = 0>
     const wchar_t& operator[](Index i) const {
-        return (*this)[narrowed(i)];
+        return (*this)[static_cast<int>(i)];
     }
 
     // ---- Sizes, all measured
@@ -122,7 +124,8 @@ public:
     ZString operator+(const wchar_t* text) const;
 
     /// Kept as is: a character counts as a number here, so `text + L'A'` ends with
-    /// 65, although `text += L'A'` appends the letter.
+    /// 65, although `text += L'A'` appends the letter. A narrow character counts as a
+    /// number in both.
     ZString operator+(int number) const;
 
     /// The same for the wider and the unsigned integer types.
@@ -180,6 +183,13 @@ public:
     /// Order of the lower-cased units.
     int operator<(const ZString& other) const;
     int operator>(const ZString& other) const;
+    int operator<=(const ZString& other) const;
+    int operator>=(const ZString& other) const;
+
+    /// Below, at or above 0 as this text orders before, with or behind `other` by
+    /// its lower-cased units.
+    int compare(const ZString& other) const;
+    int compare(const wchar_t* other) const;
 
     /// Equality unit by unit; 0 for null.
     int isEqual(const ZString& other) const;
@@ -217,7 +227,7 @@ public:
     // ---- Editing
 
     /// Replaces every occurrence of `find`, from left to right, without searching
-    /// what it put in. An empty or null `find` changes nothing. Linear.
+    /// what it put in. An empty or null `find` changes nothing. One pass, one result.
     void findAndReplace(const wchar_t* find, const wchar_t* replace);
 
     /// `count` units from `start`, fewer at the end of the text. A negative
@@ -249,7 +259,7 @@ public:
     /// Sets the text by a printf format; null changes nothing.
     ///
     /// Conversions d i u o x X c C s S p e E f F g G a A %, flags "-+ #0", width,
-    /// precision, '*', lengths h hh l ll I64 z. `%s` takes wide text, `%S` and
+    /// precision, '*', lengths h hh l ll j z t I I32 I64 L w. `%s` takes wide text, `%S` and
     /// `%hs` narrow. The decimal sign is always a dot, on every platform and in
     /// every locale; infinities are "inf", no number is "nan". What is no
     /// conversion is copied. Arguments may point into the string.
@@ -278,17 +288,6 @@ public:
     void dump(std::ostream& out) const;
 
 private:
-    template <class Index>
-    static int narrowed(Index i) {
-        constexpr long long most = 0x7FFFFFFF;
-        if constexpr (std::is_signed_v<Index>) {
-            if (static_cast<long long>(i) < -most)
-                return static_cast<int>(-most);
-        }
-        return static_cast<unsigned long long>(i) > most && i > Index{} ? static_cast<int>(most)
-                                                                        : static_cast<int>(i);
-    }
-
     const wchar_t* text() const;
     std::size_t measure() const;
     void setUsed(std::size_t slots);
@@ -301,6 +300,74 @@ private:
     ZXArray<wchar_t> array_;
 };
 
+namespace zarnex::detail {
+
+/// Pointers to and arrays of wide or narrow characters.
+template <class Text, class Unit = std::remove_cv_t<std::remove_pointer_t<std::decay_t<Text>>>>
+using IfText = std::enable_if_t<std::is_pointer_v<std::decay_t<Text>> &&
+                                    (std::is_same_v<Unit, wchar_t> || std::is_same_v<Unit, char>),
+                                int>;
+
+} // namespace zarnex::detail
+
+// Comparison with plain text on either side, as with a ZString of it. Without these
+// the string would convert to a pointer, and addresses would be compared.
+
+template <class Text, zarnex::detail::IfText<Text> = 0>
+int operator==(const ZString& a, const Text& b) {
+    return a.compare(b) == 0;
+}
+template <class Text, zarnex::detail::IfText<Text> = 0>
+int operator==(const Text& a, const ZString& b) {
+    return b.compare(a) == 0;
+}
+
+template <class Text, zarnex::detail::IfText<Text> = 0>
+int operator!=(const ZString& a, const Text& b) {
+    return a.compare(b) != 0;
+}
+template <class Text, zarnex::detail::IfText<Text> = 0>
+int operator!=(const Text& a, const ZString& b) {
+    return b.compare(a) != 0;
+}
+
+template <class Text, zarnex::detail::IfText<Text> = 0>
+int operator<(const ZString& a, const Text& b) {
+    return a.compare(b) < 0;
+}
+template <class Text, zarnex::detail::IfText<Text> = 0>
+int operator<(const Text& a, const ZString& b) {
+    return b.compare(a) > 0;
+}
+
+template <class Text, zarnex::detail::IfText<Text> = 0>
+int operator>(const ZString& a, const Text& b) {
+    return a.compare(b) > 0;
+}
+template <class Text, zarnex::detail::IfText<Text> = 0>
+int operator>(const Text& a, const ZString& b) {
+    return b.compare(a) < 0;
+}
+
+template <class Text, zarnex::detail::IfText<Text> = 0>
+int operator<=(const ZString& a, const Text& b) {
+    return a.compare(b) <= 0;
+}
+template <class Text, zarnex::detail::IfText<Text> = 0>
+int operator<=(const Text& a, const ZString& b) {
+    return b.compare(a) >= 0;
+}
+
+template <class Text, zarnex::detail::IfText<Text> = 0>
+int operator>=(const ZString& a, const Text& b) {
+    return a.compare(b) >= 0;
+}
+template <class Text, zarnex::detail::IfText<Text> = 0>
+int operator>=(const Text& a, const ZString& b) {
+    return b.compare(a) <= 0;
+}
+
+// In C++20 the members with their operands exchanged would be taken before the above.
 ZARNEX_API int operator==(const wchar_t* a, const ZString& b);
 ZARNEX_API int operator!=(const wchar_t* a, const ZString& b);
 

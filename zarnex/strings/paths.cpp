@@ -61,10 +61,12 @@ void split(const Char* path, PartOut<Char> drive, PartOut<Char> dir, PartOut<Cha
            PartOut<Char> ext) {
     path = textOrEmpty(path);
     const PathParts parts = partsOf(path);
-    drive.copy(path, 0, parts.dir);
-    dir.copy(path, parts.dir, parts.name);
-    name.copy(path, parts.name, parts.ext);
-    ext.copy(path, parts.ext, parts.end);
+    Char copy[pathRoom]; // an output may be the path's own buffer
+    copyUnits(copy, path, parts.end, pathRoom);
+    drive.copy(copy, 0, parts.dir);
+    dir.copy(copy, parts.dir, parts.name);
+    name.copy(copy, parts.name, parts.ext);
+    ext.copy(copy, parts.ext, parts.end);
 }
 
 template <class Char>

@@ -52,13 +52,11 @@ int wideToBytes(unsigned int codePage, const wchar_t* text, int count, char* out
 }
 
 int characterBytes(const char* text) {
-    auto* next = reinterpret_cast<const unsigned char*>(text);
-    const std::size_t rest = strnlen(text, 4);
-    if (rest == 0)
-        return 1;
-    const unsigned char* const start = next;
-    decodeUtf8(next, start + rest);
-    return static_cast<int>(next - start);
+    // The decoder looks at a further byte only where the sequence asks for one, and
+    // a terminator ends every sequence: no end is needed.
+    const auto* next = reinterpret_cast<const unsigned char*>(text);
+    decodeUtf8(next, next + 4);
+    return static_cast<int>(next - reinterpret_cast<const unsigned char*>(text));
 }
 
 } // namespace zarnex::platform

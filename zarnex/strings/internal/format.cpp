@@ -12,7 +12,7 @@ namespace zarnex::detail {
 
 namespace {
 
-enum class Length { none, hh, h, l, ll, z };
+enum class Length { none, hh, h, l, ll, z, longDouble };
 
 // A va_list that functions can pass on and all read from.
 struct Arguments {
@@ -67,12 +67,21 @@ Length readLength(const Char*& next) {
         return next[1] == Char{'h'} ? skip(2, Length::hh) : skip(1, Length::h);
     case Char{'l'}:
         return next[1] == Char{'l'} ? skip(2, Length::ll) : skip(1, Length::l);
+    case Char{'w'}:
+        return skip(1, Length::l);
+    case Char{'j'}:
+        return skip(1, Length::ll);
     case Char{'z'}:
+    case Char{'t'}:
         return skip(1, Length::z);
+    case Char{'L'}:
+        return skip(1, Length::longDouble);
     case Char{'I'}:
         if (next[1] == Char{'6'} && next[2] == Char{'4'})
             return skip(3, Length::ll);
-        return Length::none;
+        if (next[1] == Char{'3'} && next[2] == Char{'2'})
+            return skip(3, Length::none);
+        return skip(1, Length::z);
     default:
         return Length::none;
     }
@@ -145,6 +154,12 @@ std::uint64_t takeUnsigned(Arguments& arguments, Length length) {
     default:
         return va_arg(arguments.list, unsigned);
     }
+}
+
+double takeDouble(Arguments& arguments, Length length) {
+    if (length == Length::longDouble)
+        return static_cast<double>(va_arg(arguments.list, long double));
+    return va_arg(arguments.list, double);
 }
 
 template <class Char>
@@ -284,7 +299,7 @@ bool appendConversion(TextBuffer<Char>& out, const Conversion<Char>& conversion,
     case 'G':
     case 'a':
     case 'A':
-        appendDouble(out, va_arg(arguments.list, double), kind, layout);
+        appendDouble(out, takeDouble(arguments, conversion.length), kind, layout);
         return true;
     case 's':
     case 'S':

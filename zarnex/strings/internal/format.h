@@ -10,7 +10,8 @@ namespace zarnex::detail {
 /// family's rules, read once and the same on both platforms and in every locale.
 ///
 /// - Conversions d i u o x X c C s S p e E f F g G a A %, flags "-+ #0", width,
-///   precision and '*' for either, lengths h hh l ll I64 z.
+///   precision and '*' for either, lengths h hh l ll j z t I I32 I64 L w. A long
+///   double is rendered as a double.
 /// - `%s` and `%c` take text of the format's own type, `%S` and `%C` of the other;
 ///   h makes either narrow, l wide. A null text is "(null)". The other type is
 ///   converted by the system code page.
