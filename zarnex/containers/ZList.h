@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
+#include <type_traits>
 #include <utility>
 
 /// An ordered list of values, addressed by zero-based positions.
@@ -73,6 +74,12 @@ public:
 
     /// The same as removeByIndex().
     void remove(int index);
+
+    /// The same for every other integer type, as an int.
+    template <class Index, std::enable_if_t<std::is_integral_v<Index>, int> = 0>
+    void remove(Index index) {
+        removeByIndex(static_cast<int>(index));
+    }
 
     /// Removes the element at `index`, which wraps; nothing on an empty list.
     void removeByIndex(int index);

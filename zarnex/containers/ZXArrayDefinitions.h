@@ -252,10 +252,10 @@ void ZXArray<T>::setSize(int n) {
 template <class T>
 void ZXArray<T>::resize(int n) {
     n = (std::max)(n, 0);
-    const int slots = getGrowSize(n);
-    if (n < length_ && slots > length_)
+    const int count = getGrowSize(n);
+    if (n < length_ && count > length_)
         std::fill(data_ + n, data_ + length_, empty_);
-    growArray(slots, 0);
+    growArray(count, 0);
     if (n <= allocLength_)
         length_ = n;
 }
@@ -334,36 +334,36 @@ template <class T>
 int ZXArray<T>::getGrowSize(int n) {
     if (n < 1)
         return 0;
-    long long slots;
+    long long count;
     if (step_ >= 1) {
-        slots = (static_cast<long long>(n) + step_ - 1) / step_ * step_;
+        count = (static_cast<long long>(n) + step_ - 1) / step_ * step_;
     } else if (n >= allocLength_) {
-        for (slots = allocLength_ <= 0 ? 32 : allocLength_; slots < n;)
-            slots *= 2;
+        for (count = allocLength_ <= 0 ? 32 : allocLength_; count < n;)
+            count *= 2;
     } else {
-        for (slots = allocLength_; slots / 2 >= n;)
-            slots /= 2;
+        for (count = allocLength_; count / 2 >= n;)
+            count /= 2;
     }
-    return static_cast<int>((std::min)(slots, 0LL + (std::numeric_limits<int>::max)()));
+    return static_cast<int>((std::min)(count, 0LL + (std::numeric_limits<int>::max)()));
 }
 
 template <class T>
 void ZXArray<T>::growArray(int n, int useRule) {
-    const int slots = useRule != 0 ? getGrowSize(n) : n;
-    if (slots <= 0) {
+    const int count = useRule != 0 ? getGrowSize(n) : n;
+    if (count <= 0) {
         delete[] data_;
         data_ = nullptr;
         allocLength_ = 0;
-    } else if (slots != allocLength_) {
-        T* const storage = new (std::nothrow) T[static_cast<std::size_t>(slots)];
+    } else if (count != allocLength_) {
+        T* const storage = new (std::nothrow) T[static_cast<std::size_t>(count)];
         if (storage == nullptr)
             return;
-        T* const end = std::move(data_, data_ + (std::min)(slots, allocLength_), storage);
+        T* const end = std::move(data_, data_ + (std::min)(count, allocLength_), storage);
         if (emptySet_ != 0)
-            std::fill(end, storage + slots, empty_);
+            std::fill(end, storage + count, empty_);
         delete[] data_;
         data_ = storage;
-        allocLength_ = slots;
+        allocLength_ = count;
     }
 }
 
