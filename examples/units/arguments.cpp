@@ -27,7 +27,8 @@ to, or in UNIT alone: the unit, the display text and the exact number.
 
 UNIT is mm, cm, in, pt, spi, "per sq cm", mm/s, cm/s or another word for one.
 The status is 0 if all texts are valid, 1 if not, 2 if the call, the file or the
-output is at fault.
+output is at fault. Words that are no units, as in "3 ft" and "50 %", are ignored:
+the number counts as it does without them, and what was ignored is said.
 
   zarnex-units "2.5 mm"
   zarnex-units "1 1/2 in" --check
@@ -62,12 +63,12 @@ Arguments parseArguments(const std::vector<std::string>& given) {
                 throw UsageError(text + " needs a value");
             return given[++i];
         };
-        if (optionsOver || (text.substr(0, 2) != "--" && text != "-")) {
+        if (optionsOver || (text.substr(0, 2) != "--" && text != "-" && text != "-h")) {
             arguments.texts.push_back(text);
         } else if (text == "--") {
             optionsOver = true;
-        } else if (text == "--help" || text == "--version") {
-            arguments.task = text == "--help" ? Task::help : Task::version;
+        } else if (text == "--help" || text == "-h" || text == "--version") {
+            arguments.task = text == "--version" ? Task::version : Task::help;
             return arguments;
         } else if (text == "--check") {
             setTask(Task::check);

@@ -317,6 +317,7 @@ concept Indexes = requires(Ints list, const Ints constant, Index index) {
 };
 static_assert(Indexes<int> && Indexes<long> && Indexes<unsigned> && Indexes<std::size_t>);
 static_assert(requires(Ints list) { list.remove(0L), list.remove(0u), list.remove(list.begin()); });
+static_assert(requires(Ints list) { list.insert(1, list.length()), list.insert(1, 0u); });
 
 struct Later; // a list of pointers needs no more
 
@@ -356,7 +357,8 @@ TEST(ZList, FieldsAndSlotsStandInTheirOrder) {
     EXPECT_EQ(&fields.head->next->data, &list[1]);
     EXPECT_EQ(fields.count, 2u);
 
-    EXPECT_EQ(slotOf(&Ints::insert), 2);
+    using Insert = int& (Ints::*)(const int&, int);
+    EXPECT_EQ(slotOf(static_cast<Insert>(&Ints::insert)), 2);
 }
 
 } // namespace

@@ -154,8 +154,25 @@ TEST(ZString, PlusLeavesTheOperandsAndCountsCharactersAsNumbers) {
     const ZString string(L"x");
     EXPECT_EQ(wide(string + L"y" + string + 42 + 7L), L"xyx427");
     EXPECT_EQ(wide(string + L'A'), L"x65");
+    EXPECT_EQ(wide(L"label " + string), L"label x");
     EXPECT_EQ(wide(string), L"x");
 }
+
+// Calls that would compile and mean an address or half a number are refused.
+template <class Text>
+constexpr bool isRefused = !requires(Text text) {
+    5 + text;
+}
+&&!requires(Text text) {
+    text + 2.5;
+}
+&&!requires(Text text) {
+    text += 2.5;
+}
+&&!requires(Text text) {
+    text.set(L"%s", text);
+};
+static_assert(isRefused<ZString>);
 
 TEST(ZString, TextInsideTheStringItselfWorksAsSource) {
     ZString string(L"abcdefghijklmnopqrstuvwxyz012345"); // fills its allocation but the terminator
@@ -240,6 +257,10 @@ TEST(ZString, StreamsAsDecimalNumbers) {
     std::ostringstream out;
     out << std::hex << ZString(L"AB") << ZString();
     EXPECT_EQ(out.str(), "6566");
+    std::wostringstream wideOut;
+    ZString text(L"AB");
+    wideOut << text << std::hex << 10;
+    EXPECT_EQ(wideOut.str(), L"ABa") << "wide streams get the text";
 }
 
 TEST(ZString, HoldsNothingButItsArray) {

@@ -294,6 +294,23 @@ protected:
     }
 };
 
+// Different units are not compared by their bare numbers.
+template <class A, class B>
+constexpr bool isComparable = requires(A a, B b) {
+    a == b;
+}
+|| requires(A a, B b) {
+    a != b;
+}
+|| requires(A a, B b) {
+    a < b;
+}
+|| requires(A a, B b) {
+    a >= b;
+};
+static_assert(!isComparable<ZMillimeter, ZInch> && !isComparable<ZSpi, ZMillimeter>);
+static_assert(isComparable<ZMillimeter, ZMillimeter> && isComparable<ZInch, int>);
+
 TEST(Lengths, CompareAndAppendNaturally) {
     ZMillimeter millimeter(2.5);
     EXPECT_TRUE(millimeter == 2.5);

@@ -24,12 +24,10 @@
 ///     for (int& size : sizes)
 ///         size *= 2;
 ///
-/// A position at or past the length wraps: list[list.length()] is the first
-/// element.
-///
-/// Kept as is: a negative position i does not count from the end, although the
-/// strings do so. It names the element 2^32 + i steps round the ring from the
-/// head, wherever that is; the walk itself is cut short.
+/// Kept as is: a position at or past the length wraps, so list[list.length()] is the
+/// first element, although arrays grow. A negative position i does not count from
+/// the end, although it does in strings: it names the element 2^32 + i steps round
+/// the ring from the head, wherever that is; the walk itself is cut short.
 template <class T>
 class ZList {
 public:
@@ -71,6 +69,12 @@ public:
     /// copy. Index 0 makes it the first; every other index that wraps to the
     /// first element, such as length(), makes it the last.
     virtual T& insert(const T& element, int index);
+
+    /// The same for every other integer type, as an int.
+    template <class Index, std::enable_if_t<std::is_integral_v<Index>, int> = 0>
+    T& insert(const T& element, Index index) {
+        return insert(element, static_cast<int>(index));
+    }
 
     /// The same as removeByIndex().
     void remove(int index);

@@ -98,7 +98,7 @@ public:
 
     /// The index of the first element equal to `value`, or of the last one when
     /// `fromEnd` is not 0; -1 if there is none.
-    int find(const T& value, int fromEnd) const;
+    int find(const T& value, int fromEnd = 0) const;
 
     /// Sets every used element to the empty value; the length stays.
     void clear();

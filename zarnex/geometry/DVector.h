@@ -51,7 +51,8 @@ public:
     /// 1 if both components differ by less than 1e-11, else 0; 0 with a NaN or an
     /// infinity on either side.
     ///
-    /// Not transitive: no order or hash for containers can agree with it.
+    /// Kept as is: a strict bound, although the tests in tolerance.h are inclusive. Not
+    /// transitive: no order or hash for containers can agree with it.
     int operator==(const DVector& v) const;
     int operator!=(const DVector& v) const;
 

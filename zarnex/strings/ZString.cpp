@@ -395,6 +395,12 @@ int operator!=(const wchar_t* a, const ZString& b) {
     return b != a;
 }
 
+ZString operator+(const wchar_t* a, const ZString& b) {
+    ZString sum(a);
+    sum += b;
+    return sum;
+}
+
 std::ostream& operator<<(std::ostream& out, const ZString& text) {
     text.dump(out);
     return out;

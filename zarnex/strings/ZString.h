@@ -16,7 +16,9 @@
 ///   terminator, so what a host writes into the buffer counts at once.
 /// - The buffer is an array whose slots in use are normally length + 1 and whose
 ///   allocation grows in steps of 32 characters.
-/// - `==`, `!=`, `<` and `>` ignore case; isEqual() is exact.
+///
+/// Kept as is: `==`, `!=`, `<` and `>` ignore case; isEqual() is exact. And a string
+/// in a condition is a pointer, which is never null: ask isEmpty().
 ///
 /// Units are those of wchar_t (UTF-16 on Windows, UTF-32 on Linux) without regard
 /// to surrogates. 8-bit text is in the system code page (UTF-8 on Linux). A null
@@ -171,6 +173,12 @@ public:
         return sum;
     }
 
+    /// Not for real numbers: how many decimals? Use set() or a quantity.
+    template <class Real, std::enable_if_t<std::is_floating_point_v<Real>, int> = 0>
+    ZString& operator+=(Real) = delete;
+    template <class Real, std::enable_if_t<std::is_floating_point_v<Real>, int> = 0>
+    ZString operator+(Real) const = delete;
+
     // ---- Comparison
 
     /// Equality without regard to case, by the current locale's lower case of
@@ -207,7 +215,9 @@ public:
     int find(const wchar_t& unit, int fromEnd = 0) const;
 
     /// The first position at or behind `start` where `text` stands. A negative
-    /// `start` counts from the end. An empty or null `text` gives the length.
+    /// `start` counts from the end.
+    ///
+    /// Kept as is: an empty or null `text` gives the length, wherever the search starts.
     int findString(const wchar_t* text, int start = 0, int ignoreCase = 0) const;
 
     /// The first position at or behind `start` whose unit is one of `set`, or with
@@ -267,6 +277,12 @@ public:
     /// Kept as is: a digit behind ".*" is a further decimal digit of the
     /// precision: "%4.*2f" with 1 renders 12 decimals.
     void set(const wchar_t* format, ...);
+
+    /// Not for objects, which no conversion reads: pass a string as
+    /// `static_cast<const wchar_t*>(text)` and a quantity as `double(quantity)`.
+    template <class... Arguments,
+              std::enable_if_t<(std::is_class_v<std::decay_t<Arguments>> || ...), int> = 0>
+    void set(const wchar_t* format, const Arguments&... arguments) = delete;
 
     // ---- Export
 
@@ -371,7 +387,22 @@ int operator>=(const Text& a, const ZString& b) {
 ZARNEX_API int operator==(const wchar_t* a, const ZString& b);
 ZARNEX_API int operator!=(const wchar_t* a, const ZString& b);
 
-/// Kept as is: dump(), that is decimal numbers and no text.
+/// Text in front of a string.
+ZARNEX_API ZString operator+(const wchar_t* a, const ZString& b);
+
+/// Not for numbers in front, which would move a pointer into the string.
+template <class Number, std::enable_if_t<std::is_arithmetic_v<Number>, int> = 0>
+ZString operator+(Number, const ZString&) = delete;
+
+/// The text, to wide streams.
+template <class Traits>
+std::basic_ostream<wchar_t, Traits>& operator<<(std::basic_ostream<wchar_t, Traits>& out,
+                                                const ZString& text) {
+    return out << static_cast<const wchar_t*>(text);
+}
+
+/// Kept as is: dump(), that is decimal numbers and no text, although wide streams get
+/// the text.
 ZARNEX_API std::ostream& operator<<(std::ostream& out, const ZString& text);
 
 extern template class ZARNEX_API ZXArray<ZString>;

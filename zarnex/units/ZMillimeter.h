@@ -15,13 +15,14 @@ class ZSpi;
 /// Text is a number and an optional unit word (ZUnitScanner lists them); a bare
 /// number, or one whose unit is refused, counts in millimetres. Characters that
 /// belong to no token are dropped. Text whose first token is no number gives 0.0 and
-/// isValid() == 0; a word behind the unit keeps the value and is invalid all the
-/// same. Nothing throws. Reading text holds the scanner lock; the label is
+/// isValid() == 0. Nothing throws. Reading text holds the scanner lock; the label is
 /// process-wide and unguarded.
 ///
-/// Kept as is: a lone sign counts as a number and has the value of the latest number
-/// that the process read, and text with a token of 100 characters ends the process,
-/// although everything else that cannot be read is merely invalid.
+/// Kept as is: a word behind the unit and white space keeps the value and makes it
+/// invalid ("1 in extra"), although what stands directly at the unit is dropped
+/// without harm ("3 int", "5 cm/s"). A lone sign counts as a number and has the value of the latest
+/// number that the process read, and text with a token of 100 characters ends the process, although
+/// everything else that cannot be read is merely invalid.
 ///
 ///     ZMillimeter length(ZString("1 inch"));
 ///     double(length)            // 25.4

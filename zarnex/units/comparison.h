@@ -20,6 +20,13 @@ using IfQuantityAndNumber =
                          std::is_arithmetic_v<Number>,
                      int>;
 
+template <class A, class B>
+using IfDifferentQuantities =
+    std::enable_if_t<std::is_same_v<decltype(typename A::Quantity(0.0).isValid()), int> &&
+                         std::is_same_v<decltype(typename B::Quantity(0.0).isValid()), int> &&
+                         !std::is_same_v<typename A::Quantity, typename B::Quantity>,
+                     int>;
+
 } // namespace zarnex::detail
 
 template <class Class, class Number, zarnex::detail::IfQuantityAndNumber<Class, Number> = 0>
@@ -54,3 +61,24 @@ template <class Class, class Number, zarnex::detail::IfQuantityAndNumber<Class, 
 int operator>(const Class& object, Number number) {
     return double(object) > static_cast<double>(number);
 }
+
+// Quantities of different units do not compare: their bare numbers would. Convert
+// first, as in `length == ZMillimeter(width)`. Sums are of bare numbers all the same.
+
+template <class A, class B, zarnex::detail::IfDifferentQuantities<A, B> = 0>
+int operator==(const A&, const B&) = delete;
+
+template <class A, class B, zarnex::detail::IfDifferentQuantities<A, B> = 0>
+int operator!=(const A&, const B&) = delete;
+
+template <class A, class B, zarnex::detail::IfDifferentQuantities<A, B> = 0>
+int operator<(const A&, const B&) = delete;
+
+template <class A, class B, zarnex::detail::IfDifferentQuantities<A, B> = 0>
+int operator>(const A&, const B&) = delete;
+
+template <class A, class B, zarnex::detail::IfDifferentQuantities<A, B> = 0>
+int operator<=(const A&, const B&) = delete;
+
+template <class A, class B, zarnex::detail::IfDifferentQuantities<A, B> = 0>
+int operator>=(const A&, const B&) = delete;

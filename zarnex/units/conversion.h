@@ -5,7 +5,8 @@
 
 /// Values in units that are known by their identifier (zarnex::UnitId).
 ///
-/// Conversion goes through the display text on purpose: the result is what a user
+/// Kept as is: conversion goes through the display text, although assignment between
+/// quantities is exact: the result is what a user
 /// would have typed after reading the displayed source value: with one or two
 /// decimals for lengths, none for numbers, 12 or 22 for mm/s.
 ///
