@@ -14,6 +14,8 @@
 #   compilers make of one declaration demangle to one name.
 # - `long long` is written `long`: std::size_t is `unsigned long` on Linux and `unsigned
 #   long long` on Windows. Overloads for both remain two lines.
+# - A member that several instantiations of a container share is one line with T for their
+#   element type and the number of them; a line a container names these types.
 set -euo pipefail
 export LC_ALL=C
 
@@ -46,7 +48,54 @@ list() {
     local names
     names=$(mangled "$1" | grep -vE '^_Z(T|GV|GR|Z)')
     names=$("${CXXFILT:?c++filt is needed}" <<<"$names")
-    sort -u <<<"$names" | sed 's/long long/long/g' | sort
+    sort -u <<<"$names" | sed 's/long long/long/g' | sort | fold_instantiations | sort
+}
+
+fold_instantiations() {
+    awk '
+        function swap(text, from, to,    out, at) {
+            while ((at = index(text, from)) > 0) {
+                out = out substr(text, 1, at - 1) to
+                text = substr(text, at + length(from))
+            }
+            return out text
+        }
+        # The place of the ">" that closes the "<" at `open`.
+        function closing(text, open,    i, depth, c) {
+            for (i = open; i <= length(text); ++i) {
+                c = substr(text, i, 1)
+                depth += (c == "<") - (c == ">")
+                if (depth == 0)
+                    return i
+            }
+        }
+        !/^(ZList|ZXArray)</ { print; next }
+        {
+            open = index($0, "<")
+            end = closing($0, open)
+            container = substr($0, 1, open - 1) "<T>"
+            type = substr($0, open + 1, end - open - 1)
+            sub(/ $/, "", type)
+            member = swap(substr($0, end + 1), "<" type ">", "<T>")
+            member = swap(member, "<" type " >", "<T>")
+            member = swap(member, "<" type ",", "<T,")
+            member = swap(member, type " const&", "T const&")
+            member = swap(member, type " const*", "T const*")
+            member = swap(member, type "&", "T&")
+            member = swap(member, type "*", "T*")
+            member = swap(member, "(*)(" type ",", "(*)(T,")
+            ++count[container member]
+            if (!((container, type) in known)) {
+                known[container, type] = 1
+                types[container] = types[container] "; " type
+            }
+        }
+        END {
+            for (line in count)
+                print line " x " count[line]
+            for (container in types)
+                print container " with T =" substr(types[container], 2)
+        }'
 }
 
 compare() {
