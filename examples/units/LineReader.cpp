@@ -1,10 +1,12 @@
 #include "LineReader.h"
 
-#include "platform.h"
+#include "common/platform.h"
 
 #include <utility>
 
 namespace units {
+
+using namespace host;
 
 namespace {
 

@@ -1,11 +1,13 @@
 #include "arguments.h"
 
-#include "unitNames.h"
-#include "utf8.h"
+#include "common/unitNames.h"
+#include "common/utf8.h"
 
 #include <cstddef>
 
 namespace units {
+
+using namespace host;
 
 const char* const helpText =
     R"(Usage: zarnex-units [--unit UNIT] TEXT... [UNIT]

@@ -4,14 +4,15 @@
 /// scanner, Quantity.h converts, rendering.cpp displays.
 
 #include "LineReader.h"
-#include "Messages.h"
-#include "Output.h"
-#include "Reading.h"
 #include "arguments.h"
-#include "platform.h"
 #include "rendering.h"
-#include "unitNames.h"
-#include "utf8.h"
+
+#include "common/Messages.h"
+#include "common/Output.h"
+#include "common/Reading.h"
+#include "common/platform.h"
+#include "common/unitNames.h"
+#include "common/utf8.h"
 
 #include <exception>
 #include <stdexcept>
@@ -19,6 +20,8 @@
 #include <system_error>
 
 namespace units {
+
+using namespace host;
 
 namespace {
 
@@ -98,7 +101,7 @@ Status makeTable(const Arguments& arguments, Output& output, Messages& messages)
                                     reading.problem);
                 status = someInvalid;
             }
-            messages.progress(reader.lineNumber());
+            messages.progress(reader.lineNumber(), "lines");
         }
     } catch (const std::system_error& error) {
         output.flush();
@@ -118,7 +121,7 @@ Status run(const Arguments& arguments, Output& output, Messages& messages) {
         output.add(helpText);
         return allValid;
     case Arguments::Task::version:
-        output.add("zarnex-units " ZARNEX_UNITS_VERSION "\n");
+        output.add(PROGRAM_NAME " " PROGRAM_VERSION "\n");
         return allValid;
     default:
         return listAll(arguments, output, messages);
@@ -133,14 +136,14 @@ int main(int argc, char** argv) {
     using namespace units;
     platform::prepareStreams();
     Output output;
-    Messages messages;
+    Messages messages(PROGRAM_NAME, true);
     try {
         const Arguments arguments = parseArguments(platform::arguments(argc, argv));
         const Status status = run(arguments, output, messages);
         output.flush();
         return status;
     } catch (const UsageError& error) {
-        messages.say(std::string(error.what()) + "; zarnex-units --help tells more");
+        messages.say(std::string(error.what()) + "; " PROGRAM_NAME " --help tells more");
     } catch (const std::exception& error) {
         messages.say(error.what());
     }

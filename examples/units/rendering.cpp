@@ -1,7 +1,7 @@
 #include "rendering.h"
 
-#include "unitNames.h"
-#include "utf8.h"
+#include "common/unitNames.h"
+#include "common/utf8.h"
 
 #include <zarnex/strings/ZString.h>
 
@@ -13,6 +13,8 @@
 #include <vector>
 
 namespace units {
+
+using namespace host;
 
 namespace {
 

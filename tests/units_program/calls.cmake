@@ -1,5 +1,5 @@
 # What is given as arguments.
-include(${CMAKE_CURRENT_LIST_DIR}/expect.cmake)
+include(${CMAKE_CURRENT_LIST_DIR}/../expect.cmake)
 
 # A text is listed in every unit that it converts to.
 expect(STATUS 0 ARGS "2.5 mm" OUT

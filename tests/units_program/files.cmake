@@ -1,5 +1,5 @@
 # What stands in files.
-include(${CMAKE_CURRENT_LIST_DIR}/expect.cmake)
+include(${CMAKE_CURRENT_LIST_DIR}/../expect.cmake)
 set(here ${CMAKE_CURRENT_LIST_DIR})
 set(name zarnex-units)
 string(REPLACE "|" "\t" header

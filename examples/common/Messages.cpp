@@ -1,12 +1,13 @@
-#include "Messages.h"
+#include "common/Messages.h"
 
-#include "platform.h"
-#include "utf8.h"
+#include "common/platform.h"
+#include "common/utf8.h"
 
 #include <string>
 #include <system_error>
+#include <utility>
 
-namespace units {
+namespace host {
 
 namespace {
 
@@ -22,24 +23,30 @@ void write(const std::string& text) {
 
 } // namespace
 
+Messages::Messages(std::string program, bool writesAllTheWhile)
+    : program_(std::move(program)), writesAllTheWhile_(writesAllTheWhile) {}
+
 void Messages::say(std::string_view text) {
     clearProgress();
-    write("zarnex-units: " + std::string(text) + '\n');
+    write(program_ + ": " + std::string(text) + '\n');
 }
 
 void Messages::cannotRead(std::string_view place, std::string_view text, std::string_view problem) {
     say(std::string(place) + "cannot read " + quoted(text) + ": " + std::string(problem));
 }
 
-void Messages::progress(long long lines) {
-    constexpr long long linesBetweenLooks = 1024;
-    if (lines % linesBetweenLooks != 0 || Clock::now() < next_)
+void Messages::progress(long long done, std::string_view what) {
+    constexpr long long betweenLooks = 1024;
+    if (done < look_)
+        return;
+    look_ = done + betweenLooks;
+    if (Clock::now() < next_)
         return;
     next_ = Clock::now() + std::chrono::milliseconds(200);
-    static const bool wanted =
-        platform::isTerminal(standardError) && !platform::isTerminal(standardOutput);
+    static const bool wanted = platform::isTerminal(standardError) &&
+                               !(writesAllTheWhile_ && platform::isTerminal(standardOutput));
     if (wanted) {
-        write("\rzarnex-units: " + std::to_string(lines) + " lines");
+        write('\r' + program_ + ": " + std::to_string(done) + ' ' + std::string(what));
         shown_ = true;
     }
 }
@@ -50,4 +57,4 @@ void Messages::clearProgress() {
     shown_ = false;
 }
 
-} // namespace units
+} // namespace host

@@ -1,4 +1,4 @@
-#include "platform.h"
+#include "common/platform.h"
 
 #include <cerrno>
 #include <system_error>
@@ -8,8 +8,9 @@
 #include <fcntl.h>
 #include <io.h>
 #include <shellapi.h>
+#include <sys/stat.h>
 
-namespace units::platform {
+namespace host::platform {
 
 namespace {
 
@@ -45,6 +46,17 @@ std::wstring widen(const std::string& text) {
     MultiByteToWideChar(CP_UTF8, 0, text.c_str(), -1, out.data(), room);
     out.pop_back();
     return out;
+}
+
+// Whether the path names a device such as NUL or CON.
+bool isDevice(const std::string& path) {
+    const HANDLE file = CreateFileW(widen(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+                                    OPEN_EXISTING, 0, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return false;
+    const bool device = GetFileType(file) != FILE_TYPE_DISK;
+    CloseHandle(file);
+    return device;
 }
 
 } // namespace
@@ -89,8 +101,49 @@ void writeAll(int file, const char* bytes, std::size_t count) {
     }
 }
 
+Replacement createReplacement(const std::string& path) {
+    Replacement made;
+    made.target = path;
+    const DWORD attributes = GetFileAttributesW(widen(path).c_str());
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0) {
+        errno = EACCES; // what is protected shall stay
+        fail();
+    }
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+        errno = EISDIR;
+        fail();
+    }
+    if (isDevice(path)) {
+        made.file = _wopen(widen(path).c_str(), _O_WRONLY | _O_BINARY);
+    } else {
+        made.name = path + '.' + std::to_string(GetCurrentProcessId());
+        made.file = _wopen(widen(made.name).c_str(), _O_WRONLY | _O_BINARY | _O_CREAT | _O_EXCL,
+                           _S_IREAD | _S_IWRITE);
+    }
+    if (made.file < 0)
+        fail();
+    return made;
+}
+
+void commit(const Replacement& made) {
+    if (_close(made.file) != 0)
+        fail();
+    if (!made.name.empty() && !MoveFileExW(widen(made.name).c_str(), widen(made.target).c_str(),
+                                           MOVEFILE_REPLACE_EXISTING)) {
+        _wunlink(widen(made.name).c_str());
+        errno = EACCES;
+        fail();
+    }
+}
+
+void discard(const Replacement& made) noexcept {
+    _close(made.file);
+    if (!made.name.empty())
+        _wunlink(widen(made.name).c_str());
+}
+
 bool isTerminal(int file) {
     return _isatty(file) != 0;
 }
 
-} // namespace units::platform
+} // namespace host::platform

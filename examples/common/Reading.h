@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Quantity.h"
+#include "common/Quantity.h"
 
 #include <zarnex/units/unitIds.h>
 
@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-namespace units {
+namespace host {
 
 /// Longer texts are refused: nobody types them.
 constexpr std::size_t mostBytes = 1000;
@@ -42,4 +42,4 @@ struct Reading {
     Quantity quantity;           ///< of use without a problem
 };
 
-} // namespace units
+} // namespace host

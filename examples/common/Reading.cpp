@@ -1,12 +1,12 @@
-#include "Reading.h"
+#include "common/Reading.h"
 
-#include "utf8.h"
+#include "common/utf8.h"
 
 #include <zarnex/units/ZUnitScanner.h>
 
 #include <algorithm>
 
-namespace units {
+namespace host {
 
 namespace {
 
@@ -163,4 +163,4 @@ Reading::Reading(std::string_view text, int bareUnit) {
         problem = "text behind the unit";
 }
 
-} // namespace units
+} // namespace host

@@ -1,12 +1,12 @@
-#include "Output.h"
+#include "common/Output.h"
 
-#include "platform.h"
+#include "common/platform.h"
 
 #include <cstddef>
 #include <stdexcept>
 #include <system_error>
 
-namespace units {
+namespace host {
 
 namespace {
 
@@ -30,4 +30,4 @@ void Output::flush() {
     waiting_.clear();
 }
 
-} // namespace units
+} // namespace host

@@ -1,6 +1,6 @@
-#include "unitNames.h"
+#include "common/unitNames.h"
 
-#include "utf8.h"
+#include "common/utf8.h"
 
 #include <zarnex/units/ZUnitScanner.h>
 #include <zarnex/units/unitIds.h>
@@ -8,7 +8,7 @@
 #include <cstddef>
 #include <string>
 
-namespace units {
+namespace host {
 
 const char* unitName(int unit) {
     switch (unit) {
@@ -50,4 +50,4 @@ int unitOfWord(std::string_view text) {
     return whole && unit != zarnex::unitNumber ? unit : zarnex::unitNone;
 }
 
-} // namespace units
+} // namespace host

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace units {
+namespace host {
 
 /// What nextCharacter() returns for a byte that is no part of UTF-8.
 constexpr char32_t illFormed = 0xFFFFFFFF;
@@ -24,6 +24,10 @@ std::string toUtf8(std::wstring_view text);
 /// become U+FFFD: so the library sees the same text everywhere.
 bool toWide(std::string_view text, std::wstring& wide);
 
+/// Whether `text` is UTF-8 without control characters other than tabs, carriage returns
+/// and form feeds.
+bool isText(std::string_view text);
+
 /// Appends `text` as it may be shown on a terminal and in a table: ill-formed bytes
 /// are U+FFFD, tabs and control characters blanks, and what follows `most`
 /// characters is "…".
@@ -33,4 +37,4 @@ std::string shown(std::string_view text, int most);
 /// shown() between quotes, cut where a message would grow too long.
 std::string quoted(std::string_view text);
 
-} // namespace units
+} // namespace host

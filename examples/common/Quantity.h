@@ -15,7 +15,7 @@
 #include <type_traits>
 #include <variant>
 
-namespace units {
+namespace host {
 
 using Quantity = std::variant<ZMillimeter, ZCentimeter, ZInch, ZEmbPoint, ZSpi, ZSquareCentimeter,
                               ZMillimeterPerSec, ZCentimeterPerSec>;
@@ -77,4 +77,4 @@ void inEveryUnit(const Quantity& quantity, Use use) {
     std::visit(visit, quantity);
 }
 
-} // namespace units
+} // namespace host

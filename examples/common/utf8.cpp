@@ -1,8 +1,8 @@
-#include "utf8.h"
+#include "common/utf8.h"
 
 #include <cstddef>
 
-namespace units {
+namespace host {
 
 namespace {
 
@@ -87,6 +87,15 @@ bool toWide(std::string_view text, std::wstring& wide) {
     return true;
 }
 
+bool isText(std::string_view text) {
+    while (!text.empty()) {
+        const char32_t c = nextCharacter(text);
+        if (c == illFormed || (isControl(c) && c != '\t' && c != '\r' && c != '\f'))
+            return false;
+    }
+    return true;
+}
+
 void appendShown(std::string& out, std::string_view text, int most) {
     for (int count = 0; !text.empty(); ++count) {
         if (count == most) {
@@ -108,4 +117,4 @@ std::string quoted(std::string_view text) {
     return '"' + shown(text, mostQuoted) + '"';
 }
 
-} // namespace units
+} // namespace host

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace units {
+namespace host {
 
 /// The standard output, in whole lines.
 ///
@@ -21,4 +21,4 @@ private:
     std::string waiting_;
 };
 
-} // namespace units
+} // namespace host

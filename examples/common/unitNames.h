@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-namespace units {
+namespace host {
 
 /// The name of a unit (zarnex::UnitId): "mm", "cm", "in", "pt", "spi",
 /// "per sq cm", "mm/s" or "cm/s".
@@ -16,4 +16,4 @@ const char* unitName(int unit);
 /// besides them "mm/s" and "cm/s".
 int unitOfWord(std::string_view text);
 
-} // namespace units
+} // namespace host

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "common/platform.h"
+
+#include <string>
+#include <string_view>
+
+namespace host {
+
+/// A file that appears under its path whole or not at all.
+///
+/// Members throw std::system_error.
+class NewFile {
+public:
+    /// Begins to make the file `path`; what stands there stays until commit().
+    explicit NewFile(const std::string& path);
+
+    /// Discards what was not committed.
+    ~NewFile();
+
+    NewFile(const NewFile&) = delete;
+    NewFile& operator=(const NewFile&) = delete;
+
+    /// Adds bytes, which wait in a buffer.
+    void write(std::string_view bytes);
+
+    /// Puts the file in its place. The last call.
+    void commit();
+
+private:
+    void flush();
+
+    platform::Replacement made_;
+    std::string waiting_;
+    bool isOpen_ = true;
+};
+
+} // namespace host

@@ -1,0 +1,59 @@
+#pragma once
+
+/// What a motif file says, in embroidery points of 0.1 mm around the hoop's centre, y
+/// growing upward.
+
+#include <zarnex/containers/ZXArray.h>
+#include <zarnex/geometry/DPoint.h>
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace stitchplan {
+
+/// Something in a motif that cannot be worked; `line` is 0 where no one line is at fault.
+class MotifError : public std::runtime_error {
+public:
+    MotifError(int lineAtFault, const std::string& problem)
+        : std::runtime_error(problem), line(lineAtFault) {}
+
+    int line;
+};
+
+/// A closed outline; the edge from the last corner to the first closes it.
+struct Outline {
+    ZXArray<DPoint> corners;
+    std::vector<int> lines; ///< of the file, one a corner
+    int line = 0;           ///< that begins the outline
+    bool isHole = false;    ///< whether fabric, not thread, is inside
+};
+
+/// How the whole motif is repeated.
+struct Repeat {
+    enum class Kind { turned, mirrored, flipped };
+
+    Kind kind = Kind::turned;
+    int count = 2;        ///< copies, the first one included
+    double degrees = 0.0; ///< from one copy to the next, counter-clockwise
+    int line = 0;
+};
+
+struct Motif {
+    std::string title;
+    double hoopWidth = 0.0;
+    double hoopHeight = 0.0;
+    double stitchLength = 25.0;
+    double rowSpacing = 4.0;
+    double degrees = 0.0; ///< of the rows, counter-clockwise from the x axis
+    double scale = 1.0;   ///< of the outlines
+    std::vector<Outline> outlines;
+    std::vector<Repeat> repeats;
+
+    int rowSpacingLine = 0; ///< where it was given; 0 for the default
+};
+
+/// The shortest stitch that a machine can sew without breaking the thread.
+inline constexpr double shortestStitch = 3.0;
+
+} // namespace stitchplan

@@ -1,0 +1,123 @@
+/// zarnex-stitchplan: a motif into stitches.
+///
+/// A host program of the library, to read and to copy from. MotifReader takes typed
+/// quantities to points, plan.cpp turns and scales them by transforms, sections.cpp clips
+/// rows with the intersection functions, and summary.cpp shows quantities again.
+
+#include "stitchplan/MotifReader.h"
+#include "stitchplan/arguments.h"
+#include "stitchplan/picture.h"
+#include "stitchplan/plan.h"
+#include "stitchplan/summary.h"
+
+#include "common/Messages.h"
+#include "common/NewFile.h"
+#include "common/Output.h"
+#include "common/platform.h"
+#include "common/utf8.h"
+
+#include <exception>
+#include <new>
+#include <stdexcept>
+#include <string>
+#include <system_error>
+#include <vector>
+
+namespace stitchplan {
+
+using namespace host;
+
+namespace {
+
+enum Status { planned = 0, atFault = 2 };
+
+/// What the user calls the motif.
+std::string nameOf(const Arguments& arguments) {
+    return arguments.motif == "-" ? "standard input" : shown(arguments.motif, 200);
+}
+
+std::string readWhole(const Arguments& arguments) {
+    std::string text;
+    try {
+        const int file = arguments.motif == "-" ? 0 : platform::openFile(arguments.motif);
+        std::vector<char> chunk(1 << 16);
+        while (const std::size_t count = platform::readSome(file, chunk.data(), chunk.size())) {
+            text.append(chunk.data(), count);
+            if (text.size() > mostMotifBytes)
+                throw std::runtime_error(nameOf(arguments) + ": more than 4 MiB is no motif");
+        }
+    } catch (const std::system_error& error) {
+        throw std::runtime_error("cannot read " + nameOf(arguments) + ": " +
+                                 error.code().message());
+    }
+    return text;
+}
+
+Plan makePlan(const Arguments& arguments, Messages& messages) {
+    const std::string text = readWhole(arguments);
+    const std::vector<std::string_view> lines = linesOf(text);
+    try {
+        return planStitches(readMotif(lines),
+                            [&](int stitches) { messages.progress(stitches, "stitches"); });
+    } catch (const MotifError& error) {
+        std::string message = nameOf(arguments) + ": " + error.what();
+        if (error.line > 0) {
+            const auto at = static_cast<std::size_t>(error.line) - 1;
+            message = nameOf(arguments) + ':' + std::to_string(error.line) + ": " + error.what() +
+                      ": " + quoted(lines[at]);
+        }
+        throw std::runtime_error(message);
+    }
+}
+
+void writePicture(const Plan& plan, const std::string& path, Messages& messages) {
+    try {
+        NewFile file(path);
+        drawPicture(
+            plan, [&file](std::string_view piece) { file.write(piece); },
+            [&](int stitches) { messages.progress(stitches, "stitches drawn"); });
+        file.commit();
+    } catch (const std::system_error& error) {
+        throw std::runtime_error("cannot write " + shown(path, 200) + ": " +
+                                 error.code().message());
+    }
+}
+
+void run(const Arguments& arguments, Output& output, Messages& messages) {
+    if (arguments.task == Arguments::Task::help) {
+        output.add(helpText);
+    } else if (arguments.task == Arguments::Task::version) {
+        output.add(PROGRAM_NAME " " PROGRAM_VERSION "\n");
+    } else {
+        const Plan plan = makePlan(arguments, messages);
+        if (!arguments.picture.empty())
+            writePicture(plan, arguments.picture, messages);
+        messages.clearProgress();
+        output.add(summaryOf(plan));
+        if (!arguments.picture.empty())
+            output.add("picture     " + shown(arguments.picture, 200) + '\n');
+    }
+    output.flush();
+}
+
+} // namespace
+
+} // namespace stitchplan
+
+int main(int argc, char** argv) {
+    using namespace stitchplan;
+    platform::prepareStreams();
+    Output output;
+    Messages messages(PROGRAM_NAME, false);
+    try {
+        run(parseArguments(platform::arguments(argc, argv)), output, messages);
+        return planned;
+    } catch (const UsageError& error) {
+        messages.say(std::string(error.what()) + "; " PROGRAM_NAME " --help tells more");
+    } catch (const std::bad_alloc&) {
+        messages.say("not enough memory");
+    } catch (const std::exception& error) {
+        messages.say(error.what());
+    }
+    return atFault;
+}

@@ -1,0 +1,67 @@
+#include "stitchplan/summary.h"
+
+#include "common/utf8.h"
+
+#include <zarnex/strings/ZString.h>
+#include <zarnex/units/ZEmbPoint.h>
+#include <zarnex/units/ZInch.h>
+#include <zarnex/units/ZMillimeter.h>
+#include <zarnex/units/ZSpi.h>
+
+#include <algorithm>
+
+namespace stitchplan {
+
+namespace {
+
+std::string text(const ZString& shown) {
+    return host::toUtf8(static_cast<const wchar_t*>(shown));
+}
+
+std::string millimeters(double points) {
+    return text(ZMillimeter(ZEmbPoint(points)).getString(0, 1));
+}
+
+std::string counted(int count, const char* one, const char* many) {
+    return std::to_string(count) + ' ' + (count == 1 ? one : many);
+}
+
+std::string row(const char* name, const std::string& value) {
+    constexpr std::size_t width = 12;
+    std::string line = name;
+    line.resize(width, ' ');
+    return line + value + '\n';
+}
+
+} // namespace
+
+std::string summaryOf(const Plan& plan) {
+    const Motif& motif = plan.motif;
+    const ZEmbPoint thread(plan.path.length());
+    const ZInch inches(thread);
+    const ZSpi density(plan.path.needles() / double(inches));
+    const auto holes = static_cast<int>(std::count_if(motif.outlines.begin(), motif.outlines.end(),
+                                                      [](const Outline& o) { return o.isHole; }));
+    const int outlines = static_cast<int>(motif.outlines.size()) - holes;
+    const DRECT& extent = plan.extent;
+
+    std::string lines;
+    if (!motif.title.empty())
+        lines += row("title", motif.title);
+    lines += row("outlines", counted(outlines, "outline", "outlines") + ", " +
+                                 counted(holes, "hole", "holes") + ", " +
+                                 counted(static_cast<int>(plan.copies.size()), "copy", "copies"));
+    lines += row("stitches", std::to_string(plan.path.needles()));
+    lines += row("rows", std::to_string(plan.rows));
+    lines += row("threads", std::to_string(plan.path.threads()));
+    lines += row("thread", millimeters(thread) + ", " + text(inches.getString(0, 2)));
+    lines +=
+        row("extent", millimeters(extent.right - extent.left) + " x " +
+                          millimeters(extent.bottom - extent.top) + ", from (" +
+                          millimeters(extent.left) + ", " + millimeters(extent.top) + ") to (" +
+                          millimeters(extent.right) + ", " + millimeters(extent.bottom) + ')');
+    lines += row("density", text(density.getString(0, 2)));
+    return lines;
+}
+
+} // namespace stitchplan
