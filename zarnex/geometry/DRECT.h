@@ -17,8 +17,9 @@
 /// a rectangle does nothing then and a test returns 0, but a null operand of IntersectDRect,
 /// UnionDRect, DRectInDRect and IsDRectEmpty counts as an empty rectangle.
 ///
-/// No comparison with a NaN holds. An infinite edge compares as IEEE arithmetic has it: the
-/// inner end of its tolerance, infinity - infinity, is a NaN.
+/// No comparison with a NaN holds. An infinite edge has an infinite tolerance: it equals
+/// every finite edge, but not itself, if it is one of `b` in EqualDRect; PtInDRect finds
+/// nothing before it on the right or at the bottom, and DRectInDRect nothing strictly inside.
 
 #include <zarnex/config.h>
 
@@ -59,16 +60,13 @@ ZARNEX_API void NormalizeDRect(DRECT* r);
 ZARNEX_API int IsDRectEmpty(const DRECT* r);
 
 /// 1 if each field of `a` is within the tolerance of the same field of `b`, else 0.
-///
-/// Kept as is: the tolerance is that of `b` alone, so that at its very edge
-/// EqualDRect(b, a) can differ.
 ZARNEX_API int EqualDRect(const DRECT* a, const DRECT* b);
 
 /// 1 if `p` is in the rectangle or on any of its edges, else 0.
 ZARNEX_API int PointInDRect(const DRECT* r, const DBLPOINT* p);
 
 /// 1 if `p` is in the rectangle or on its left or top edge, but not on the right or bottom
-/// one, else 0. An infinite right or bottom edge has nothing before it.
+/// one, else 0.
 ///
 /// Kept as is: half-open, where PointInDRect is closed, and points closer to the right or
 /// bottom edge than its tolerance are out. (9.9999999995, 5) is not in (0, 0, 10, 10).
