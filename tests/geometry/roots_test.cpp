@@ -87,6 +87,7 @@ TEST(Roots, ComeInTheirOrderWithinAbsoluteBounds) {
         {cubic, {1, -3, 0, 4}, {-1, 2}},
         {cubic, {1, 0, 1, -10}, {2}},
         {cubic, {1e-7, 1, -3, 2}, {2, 1}}, // a counts as zero
+        {cubic, {0, 1, -2, 1 - 1e-8}, {1.0001, 0.9999}},
         {cubic, {0, 1e-9, 2, -4}, {2}},
         {cubic, {1, 0, 0, -1e-5}, {2 * small, -small}}, // a small root is spoilt
     };

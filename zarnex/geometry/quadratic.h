@@ -4,7 +4,7 @@
 ///
 /// Both solvers write only as many roots as they count, and none through a null pointer.
 /// Coefficients that are NaN, or overflow on the way, may give roots that are NaN, infinite
-/// or 0, and a count to match no curve; nothing worse.
+/// or 0, and any count.
 
 #include <zarnex/config.h>
 
@@ -16,7 +16,7 @@
 /// term the positive root comes first; else they rise for an `a` above 0 and fall below.
 ///
 /// Kept as is: the bounds are absolute. With a discriminant b^2 - 4ac between -1e-5 and
-/// 1e-5 there is one, double root: 0.0015 for x^2 - 0.003x + 0.000002, although 0.001 and
+/// 1e-5 there is one root, a double one: 0.0015 for x^2 - 0.003x + 0.000002, although 0.001 and
 /// 0.002 solve it. Only where b or c counts as zero is the discriminant not asked.
 ///
 /// Kept as is: the roots are 2c / (-b + d) and 2c / (-b - d) with the root d of the
