@@ -12,6 +12,8 @@
 /// double one; a triple root comes once. Where `a` counts as zero, the roots are those of
 /// ZQuadraticSolver, in its order.
 ///
+/// The last bits are those of cbrt, acos and cos in the platform's mathematical library.
+///
 /// Coefficients that are NaN, or overflow on the way, may give roots that are NaN or
 /// infinite, and any number from 0 to 3.
 ///
