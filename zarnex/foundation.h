@@ -14,6 +14,7 @@
 #include <zarnex/containers/ZXArray.h>
 #include <zarnex/containers/ZXArrayDefinitions.h>
 #include <zarnex/geometry/DPoint.h>
+#include <zarnex/geometry/DRECT.h>
 #include <zarnex/geometry/DVector.h>
 #include <zarnex/geometry/GPoint.h>
 #include <zarnex/geometry/IPoint.h>
@@ -21,10 +22,15 @@
 #include <zarnex/geometry/ZCoord.h>
 #include <zarnex/geometry/ZTPoint.h>
 #include <zarnex/geometry/ZVector.h>
+#include <zarnex/geometry/ZrnRandomGenerator.h>
+#include <zarnex/geometry/ZrnRandomGenerator2.h>
 #include <zarnex/geometry/angles.h>
 #include <zarnex/geometry/averages.h>
+#include <zarnex/geometry/circleCentre.h>
+#include <zarnex/geometry/cubic.h>
 #include <zarnex/geometry/formulas.h>
 #include <zarnex/geometry/orientation.h>
+#include <zarnex/geometry/quadratic.h>
 #include <zarnex/geometry/rounding.h>
 #include <zarnex/geometry/tolerance.h>
 #include <zarnex/platform/records.h>

@@ -1,0 +1,135 @@
+#include <zarnex/geometry/circleCentre.h>
+#include <zarnex/geometry/cubic.h>
+#include <zarnex/geometry/quadratic.h>
+
+#include "hostileValues.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace {
+
+TEST(CircleCentre, TheTwoRefuseDifferentPoints) {
+    const DPoint before(-12345, -12345);
+    const struct {
+        DPoint p1, p2, p3;
+        int angled, eliminated;
+        DPoint centre;
+    } rows[] = {
+        {{0, 0}, {2, 0}, {0, 2}, 0, 0, {1, 1}},
+        {{0, 0}, {0, 2}, {2, 0}, 0, 0, {1, 1}}, // rows exchanged
+        {{0, 0}, {1, 0}, {2, 0}, -1, -1, before},
+        {{0, 0}, {0, 1}, {0, 2}, -1, -1, before}, // no pivot
+        {{1, 1}, {1, 1}, {2, 0}, -1, -1, before},
+        {{1, 1}, {2, 0}, {1, 1}, -1, -1, before},
+        {{0, 0}, {100, 0}, {200, 1}, -1, 0, {50, 10000.5}},
+        {{0, 0}, {16, 0}, {0, 2e-6}, -1, 0, {8, 1e-6}},      // a short step from p1
+        {{0, 0}, {1e-5, 0}, {0, 1e-5}, -1, 0, {5e-6, 5e-6}}, // a small area
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(&row - rows);
+        DPoint angled = before, eliminated = before;
+        EXPECT_EQ(computeCentre(&angled, row.p1, row.p2, row.p3), row.angled);
+        EXPECT_EQ(LUcomputeCentre(&eliminated, row.p1, row.p2, row.p3), row.eliminated);
+        EXPECT_LT(angled.distance(row.angled == 0 ? row.centre : before), 1e-8);
+        EXPECT_LT(eliminated.distance(row.eliminated == 0 ? row.centre : before), 1e-8);
+    }
+}
+
+int fixed(const double* k, double* r) {
+    return quadraticSolve(&r[0], &r[1], k[0], k[1], k[2]);
+}
+
+// The tolerances follow the coefficients.
+int chosen(const double* k, double* r) {
+    int count = -1;
+    ZQuadraticSolver().quadraticSolve(&count, &r[0], &r[1], k[0], k[1], k[2], k[3], k[4]);
+    return count;
+}
+
+int cubic(const double* k, double* r) {
+    return cubicRoots(k[0], k[1], k[2], k[3], r);
+}
+
+TEST(Roots, ComeInTheirOrderWithinAbsoluteBounds) {
+    const double small = std::cbrt(5e-6);
+    const struct {
+        int (*solve)(const double* coefficients, double* roots);
+        double coefficients[5];
+        std::vector<double> roots;
+    } rows[] = {
+        {fixed, {0, 2, -4}, {2}},
+        {fixed, {9e-11, 9e-11, 5}, {}},
+        {fixed, {2, 0, 0}, {0}},
+        {fixed, {2, -4, 9e-11}, {0, 2}},
+        {fixed, {1, 0, 1}, {}},
+        {fixed, {-1, 0, 4}, {2, -2}},
+        {fixed, {1, -3, 2}, {1, 2}},
+        {fixed, {1, 2, 1 - 5e-6 / 4}, {-1}}, // a discriminant of 5e-6, -5e-6, -2e-5
+        {fixed, {1, 2, 1 + 5e-6 / 4}, {-1}},
+        {fixed, {1, 2, 1 + 2e-5 / 4}, {}},
+        {fixed, {1, 1e9, 1}, {HUGE_VAL, -1e-9}}, // cancelled
+        {chosen, {1, 1e9, 1, 1e-9, 1e-9}, {-1e9, -1e-9}},
+        {chosen, {0.5, 0.5, 2, 0.5, 0}, {}}, // 0.5 is not below 0.5
+        {chosen, {0.4, 0.5, 2, 0.5, 0}, {-4}},
+        {chosen, {2, -6, 4, 1e-9, 1e-9}, {2, 1}},
+        {chosen, {1, 0, -4, 1e-9, 1e-9}, {-2, 2}},
+        {chosen, {1, -2, 0, 1e-9, 4}, {2, 0}}, // a discriminant of 4, then of -4
+        {chosen, {1, -2, 0, 1e-9, 4.1}, {1}},
+        {chosen, {1, 0, 1, 1e-9, -4}, {0}},
+        {chosen, {1, 0, 1, 1e-9, 3.9}, {}},
+        {chosen, {1, 0, 0, 1e-9, 0}, {0, NAN}},
+        {cubic, {1, -6, 11, -6}, {3, 2, 1}},
+        {cubic, {2, -12, 24, -16}, {2}},
+        {cubic, {1, -3, 0, 4}, {-1, 2}},
+        {cubic, {1, 0, 1, -10}, {2}},
+        {cubic, {1e-7, 1, -3, 2}, {2, 1}}, // a counts as zero
+        {cubic, {0, 1, -2, 1 - 1e-8}, {1.0001, 0.9999}},
+        {cubic, {0, 1e-9, 2, -4}, {2}},
+        {cubic, {1, 0, 0, -1e-5}, {2 * small, -small}}, // a small root is spoilt
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(&row - rows);
+        double found[3] = {};
+        ASSERT_EQ(row.solve(row.coefficients, found), static_cast<int>(row.roots.size()));
+        for (std::size_t i = 0; i < row.roots.size(); ++i) {
+            const double expected = row.roots[i];
+            EXPECT_TRUE(found[i] == expected || (std::isnan(found[i]) && std::isnan(expected)) ||
+                        (row.solve == cubic && std::fabs(found[i] - expected) < 1e-9))
+                << found[i];
+        }
+    }
+}
+
+TEST(Roots, OnlyThoseCountedAreWrittenWhateverTheValues) {
+    constexpr double unset = -12345.0;
+    for (int i = 0; i < 50000; ++i) {
+        double k[6];
+        std::generate_n(k, 6, hostileValue);
+        SCOPED_TRACE(testing::PrintToString(k));
+        for (const auto solve : {fixed, chosen, cubic}) {
+            double found[4] = {unset, unset, unset, unset};
+            const int count = solve(k, found);
+            ASSERT_TRUE(count >= 0 && count <= (solve == cubic ? 3 : 2));
+            ASSERT_EQ(std::find(found, found + 4, unset) - found, count);
+        }
+        for (const auto solve : {computeCentre, LUcomputeCentre}) {
+            DPoint centre(unset, unset);
+            const int outcome = solve(&centre, {k[0], k[1]}, {k[2], k[3]}, {k[4], k[5]});
+            ASSERT_EQ(outcome, centre.x == unset ? -1 : 0);
+        }
+    }
+}
+
+TEST(Roots, NullPointersAreHarmless) {
+    EXPECT_EQ(quadraticSolve(nullptr, nullptr, 1, -3, 2), 2);
+    ZQuadraticSolver::quadraticSolve(nullptr, nullptr, nullptr, 1, -3, 2, 0, 0);
+    EXPECT_EQ(cubicRoots(1, -6, 11, -6, nullptr), 3);
+    EXPECT_EQ(computeCentre(nullptr, {0, 0}, {2, 0}, {0, 2}), 0);
+    EXPECT_EQ(LUcomputeCentre(nullptr, {0, 0}, {2, 0}, {0, 2}), 0);
+}
+
+} // namespace
