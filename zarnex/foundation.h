@@ -24,8 +24,14 @@
 #include <zarnex/geometry/angles.h>
 #include <zarnex/geometry/averages.h>
 #include <zarnex/geometry/formulas.h>
+#include <zarnex/geometry/lineFit.h>
+#include <zarnex/geometry/lineIntersection.h>
+#include <zarnex/geometry/lineTests.h>
 #include <zarnex/geometry/orientation.h>
+#include <zarnex/geometry/projection.h>
 #include <zarnex/geometry/rounding.h>
+#include <zarnex/geometry/segmentAtDistance.h>
+#include <zarnex/geometry/segmentOverlap.h>
 #include <zarnex/geometry/tolerance.h>
 #include <zarnex/platform/records.h>
 #include <zarnex/runtime/MiniGuard.h>
