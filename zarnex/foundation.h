@@ -29,9 +29,15 @@
 #include <zarnex/geometry/circleCentre.h>
 #include <zarnex/geometry/cubic.h>
 #include <zarnex/geometry/formulas.h>
+#include <zarnex/geometry/lineFit.h>
+#include <zarnex/geometry/lineIntersection.h>
+#include <zarnex/geometry/lineTests.h>
 #include <zarnex/geometry/orientation.h>
+#include <zarnex/geometry/projection.h>
 #include <zarnex/geometry/quadratic.h>
 #include <zarnex/geometry/rounding.h>
+#include <zarnex/geometry/segmentAtDistance.h>
+#include <zarnex/geometry/segmentOverlap.h>
 #include <zarnex/geometry/tolerance.h>
 #include <zarnex/platform/records.h>
 #include <zarnex/runtime/MiniGuard.h>

@@ -29,6 +29,10 @@ inline int roundHalfAwayToInt(double value);
 /// next even one away from zero.
 inline double roundHalfAway(double value);
 
+/// `value` rounded to the nearest integer, halves away from zero, without exception: the
+/// largest double below 0.5 gives 0, as with std::round.
+constexpr int roundToNearestInt(double value);
+
 constexpr int truncateToInt(double value) {
     if (value > -2147483649.0 && value < 2147483648.0)
         return static_cast<int>(value);
@@ -48,6 +52,17 @@ inline double roundHalfAway(double value) {
     if (shifted > -wholeFrom && shifted < wholeFrom)
         return static_cast<double>(static_cast<long long>(shifted));
     return shifted;
+}
+
+// The rest is exact: nothing of it is lost as a sum with 0.5 would lose it.
+constexpr int roundToNearestInt(double value) {
+    const int whole = truncateToInt(value);
+    const double rest = value - whole;
+    if (rest >= 0.5 && whole < (std::numeric_limits<int>::max)())
+        return whole + 1;
+    if (rest <= -0.5 && whole > (std::numeric_limits<int>::min)())
+        return whole - 1;
+    return whole;
 }
 
 } // namespace zarnex

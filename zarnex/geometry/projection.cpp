@@ -1,0 +1,2 @@
+// The functions stand in the header; the library exports the copies that it makes here.
+#include <zarnex/geometry/projection.h>
