@@ -10,16 +10,13 @@ using General = ZMatrix<double>;
 using Matrix = Z2DMatrix<double>;
 
 TEST(Z2DMatrix, TransposesInThreeWays) {
-    Matrix m = matrix({1, 2, 3, 4});
-    Matrix out;
-    EXPECT_EQ(m.transpose(out), 0);
+    Matrix m = matrix({1, 2, 3, 4}), own(m), out;
+    EXPECT_EQ(m.transpose(out) + own.transpose() + m.transpose(static_cast<General&>(m)), 0);
     EXPECT_EQ(elementsOf(out), Numbers({1, 3, 2, 4}));
-    EXPECT_EQ(out.transpose(), 0);
-    EXPECT_EQ(elementsOf(out), Numbers({1, 3, 4, 2}));
-    EXPECT_EQ(out.transpose(out), 0);
-    EXPECT_EQ(elementsOf(out), Numbers({1, 3, 2, 4}));
-    EXPECT_EQ(m.transpose(static_cast<General&>(m)), 0);
+    EXPECT_EQ(elementsOf(own), Numbers({1, 2, 4, 3}));
     EXPECT_EQ(elementsOf(m), Numbers({1, 2, 2, 4}));
+    EXPECT_EQ(own.transpose(own), 0);
+    EXPECT_EQ(elementsOf(own), Numbers({1, 2, 3, 4}));
 }
 
 TEST(Z2DMatrix, InvertsByItsOwnOverloadsAlone) {
@@ -70,7 +67,7 @@ TEST(Z2DMatrix, CallsThroughTheBaseReachItsEntries) {
     EXPECT_EQ(elementsOf(scaled), Numbers({0.5, 0, 0, 0.5}));
 }
 
-TEST(Z2DMatrix, TakesItselfForAnArgument) {
+TEST(Z2DMatrix, TakesItselfForAnArgumentAndSolves) {
     const Matrix given = matrix({1, 2, 3, 4});
     Matrix m(given);
     EXPECT_EQ(m.multiply(given, m), 0);
@@ -84,12 +81,8 @@ TEST(Z2DMatrix, TakesItselfForAnArgument) {
     m = given;
     EXPECT_EQ(m.solve(m), 0);
     EXPECT_EQ(elementsOf(m), Numbers({1, 0, 0, 1}));
-}
-
-TEST(Z2DMatrix, SolvesForAnyNumberOfColumns) {
     General b = matrix(2, 3, {2, 4, 6, 4, 8, 12});
-    EXPECT_EQ(matrix({2, 0, 0, 4}).solve(b), 0);
-    EXPECT_EQ(matrix({1, 1, 1, 1}).solve(b), 2);
+    EXPECT_EQ(matrix({2, 0, 0, 4}).solve(b) + matrix({1, 1, 1, 1}).solve(b), 2); // 0 and 2
     EXPECT_EQ(elementsOf(b), Numbers({1, 2, 3, 1, 2, 3}));
 }
 

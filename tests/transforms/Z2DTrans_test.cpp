@@ -41,7 +41,6 @@ TEST(Z2DTrans, ConstructorsByName) {
     };
     for (const auto& row : rows)
         EXPECT_EQ(elementsOf(row.trans), row.elements) << &row - rows;
-    EXPECT_TRUE(at(trans(1, 2, 3, 4) * DPoint(1, 0), 1, 3));
 }
 
 // Each row: a step, and the matrix that it stands for.
@@ -51,7 +50,7 @@ TEST(Z2DTrans, StepsActAfterThoseBefore) {
     const DVector v(3, 4), u(4, 3), none(0, 0);
     const struct {
         std::function<void(Z2DTrans&)> step;
-        Numbers e;
+        Numbers matrix;
     } rows[] = {
         {[](Z2DTrans& t) { t.rotateInDegree(90); }, {c, -s, s, c}},
         {[&](Z2DTrans& t) { t.rotate(double(ninety)); }, {c, -s, s, c}},
@@ -71,12 +70,12 @@ TEST(Z2DTrans, StepsActAfterThoseBefore) {
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(&row - rows);
-        Z2DTrans t = trans(1.5, -2, 0.25, 8);
+        const Z2DTrans start = trans(1.5, -2, 0.25, 8);
+        Z2DTrans t(start);
         row.step(t);
-        EXPECT_EQ(elementsOf(t),
-                  Numbers({row.e[0] * 1.5 + row.e[1] * 0.25, //
-                           row.e[0] * -2.0 + row.e[1] * 8.0, row.e[2] * 1.5 + row.e[3] * 0.25,
-                           row.e[2] * -2.0 + row.e[3] * 8.0}));
+        Z2DMatrix<double> expected;
+        EXPECT_EQ(::matrix(row.matrix).multiply(start, expected), 0);
+        EXPECT_EQ(elementsOf(t), elementsOf(expected));
         const ZMatrix<double> wide(1, 3, nullptr);
         t = wide; // and of another shape nothing happens
         row.step(t);
@@ -85,29 +84,20 @@ TEST(Z2DTrans, StepsActAfterThoseBefore) {
     }
 }
 
-TEST(Z2DTrans, MapsPointsAndVectorsAlike) {
+TEST(Z2DTrans, MapsPointsAndVectorsAndRoundsIntegers) {
     const Z2DTrans t = trans(1, 2, 3, 4);
-    DPoint p(5, 6);
-    DVector v(5, 6);
-    IPoint ip(5, 6);
-    IVector iv(5, 6);
-    EXPECT_TRUE(at(t * p, 17, 39) && at(t * v, 17, 39) && at(t * ip, 17, 39) && at(t * iv, 17, 39));
-    EXPECT_TRUE(at(p *= t, 17, 39) && at(v *= t, 17, 39));
-    EXPECT_TRUE(at(ip *= t, 17, 39) && at(iv *= t, 17, 39));
-    EXPECT_TRUE(at(trans(0.5, 0, 0, 0.5) * IPoint(3, -3), 2, -2));
+    const auto maps = [&t](auto v) { return at(t * v, 17, 39) && at(v *= t, 17, 39); };
+    EXPECT_TRUE(maps(DPoint(5, 6)) && maps(DVector(5, 6)));
+    EXPECT_TRUE(maps(IPoint(5, 6)) && maps(IVector(5, 6)));
     EXPECT_TRUE(at(trans(1e9, 0, 0, -1e9) * IPoint(3, 3), INT_MAX, INT_MIN));
     EXPECT_TRUE(at(trans(INT_MAX + 0.5, 0, 0, INT_MIN - 0.5) * IPoint(1, 1), INT_MAX, INT_MIN));
-}
-
-TEST(Z2DTrans, RoundsIntegersAsTheStandardLibrary) {
     std::mt19937 random(3);
     for (int i = 0; i < 2000; ++i) {
-        const double whole = static_cast<double>(random()) - 2147483648.0;
-        const double tie = std::trunc(whole / (1 << random() % 31)) + 0.5;
+        const double any = static_cast<double>(random()) - 2147483648.0;
+        const double tie = std::trunc(any / (1 << random() % 31)) + 0.5;
         for (const double value : {tie, std::nextafter(tie, 1e10), std::nextafter(tie, -1e10)})
             ASSERT_EQ((trans(value, 0, 0, 0) * IPoint(1, 0)).x,
-                      zarnex::truncateToInt(std::round(value)))
-                << value;
+                      zarnex::truncateToInt(std::round(value)));
     }
 }
 
@@ -119,11 +109,8 @@ TEST(Z2DTrans, AssignsAndCombinesWithEveryKindOfMatrix) {
     t = own;
     turn = general;
     EXPECT_EQ(elementsOf(t), elementsOf(turn));
-    t *= turn;
-    t *= 2;
-    t += own;
-    t -= general;
-    EXPECT_EQ(elementsOf(t), Numbers({14, 20, 30, 44}));
+    EXPECT_EQ(elementsOf(t *= turn), Numbers({7, 10, 15, 22}));
+    ((t *= 2) += own) -= general;
     EXPECT_EQ(t.invert(turn) + t.multiply(general, t) + turn.transpose(t), 0);
     EXPECT_EQ(elementsOf(turn), Numbers({44.0 / 16, -20.0 / 16, -30.0 / 16, 14.0 / 16}));
     EXPECT_EQ(elementsOf(t), Numbers({44.0 / 16, -30.0 / 16, -20.0 / 16, 14.0 / 16}));
@@ -142,15 +129,6 @@ TEST(Z2DTrans, SplitsIntoScalesAndTheRest) {
         {trans(2, 0, 0, 3), 4, 1, 0, 1, 3, 4, 3, {2, 0, 0, 1}},
         {trans(3, -4, 4, 3), 1, 2, 0, 5, 3.5, 5, 7, {3 / 5.0, -4 / 3.5, 4 / 5.0, 3 / 3.5}},
         {trans(0.5, 0, 0, 3), 1, 1, 1, 0, 3, 1, 1, kept}, // too short for one whole
-        {trans(2, 0, 0, 3),
-         INT_MAX,
-         1,
-         0,
-         92681.0 / INT_MAX,
-         3,
-         92681,
-         3,
-         {2 / (92681.0 / INT_MAX), 0, 0, 1}},
         {trans(-1, 0, 0, 1), 1, 1, 1, 7, 7, 1, 1, kept},
         {trans(1, 2, 2, 4), 1, 1, 1, 7, 7, 1, 1, kept},
         {trans(2, 0, 0, 3), 0, 1, 1, 7, 7, 0, 1, kept},
