@@ -48,6 +48,15 @@
 #include <zarnex/strings/FontUtils.h>
 #include <zarnex/strings/StringUtils.h>
 #include <zarnex/strings/ZString.h>
+#include <zarnex/transforms/ArbTrans.h>
+#include <zarnex/transforms/CompositeTrans.h>
+#include <zarnex/transforms/IdTrans.h>
+#include <zarnex/transforms/ReverseTrans.h>
+#include <zarnex/transforms/Z2DMatrix.h>
+#include <zarnex/transforms/Z2DTrans.h>
+#include <zarnex/transforms/ZHashablePointer.h>
+#include <zarnex/transforms/ZMatrix.h>
+#include <zarnex/transforms/elementaryTransforms.h>
 #include <zarnex/units/ZCentimeter.h>
 #include <zarnex/units/ZCentimeterPerSec.h>
 #include <zarnex/units/ZDegree.h>

@@ -1,0 +1,174 @@
+#include "matrices.h"
+
+#include "tests/geometry/coordinates.h"
+
+#include <zarnex/transforms/elementaryTransforms.h>
+
+#include <climits>
+#include <cmath>
+#include <functional>
+#include <random>
+#include <type_traits>
+
+namespace {
+
+Z2DTrans trans(double m00, double m01, double m10, double m11) {
+    return Z2DTrans(DVector(m00, m01), DVector(m10, m11));
+}
+
+TEST(Z2DTrans, ConstructorsByName) {
+    static_assert(sizeof(Z2DRotate) == sizeof(ZMatrix<double>));
+    const double c = std::cos(0.75), s = std::sin(0.75);
+    const DVector none(1e-9, 0), v(3, 4), u(4, 3);
+    const struct {
+        Z2DTrans trans;
+        Numbers elements;
+    } rows[] = {
+        {Z2DTrans(), {1, 0, 0, 1}},
+        {trans(1, 2, 3, 4), {1, 2, 3, 4}},
+        {Z2DRotate(), {1, 0, 0, 1}},
+        {Z2DRotate(0.75), {c, -s, s, c}},
+        {Z2DRotate(v), {0.6, -0.8, 0.8, 0.6}},
+        {Z2DRotate(none), {1, 0, 0, 1}},
+        {Z2DRotate(v, u), {24.0 / 25, -7.0 / 25, 7.0 / 25, 24.0 / 25}}, // from u to v
+        {Z2DRotate(none, u * 0.1), {1, 0, 0, 1}}, // the product of the lengths is 5e-10
+        {Z2DXScale(3), {3, 0, 0, 1}},
+        {Z2DYScale(3), {1, 0, 0, 3}},
+        {Z2DXShear(3), {1, 3, 0, 1}},
+        {Z2DYShear(3), {1, 0, 3, 1}},
+        {Z2DXScale(), {1, 0, 0, 1}},
+        {Z2DYShear(Z2DYShear(2)), {1, 0, 2, 1}},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(elementsOf(row.trans), row.elements) << &row - rows;
+}
+
+// Each row: a step, and the matrix that it stands for.
+TEST(Z2DTrans, StepsActAfterThoseBefore) {
+    volatile double ninety = 90 * 0.017453292522222223; // not folded by the compiler
+    const double c = std::cos(ninety), s = std::sin(ninety);
+    const DVector v(3, 4), u(4, 3), none(0, 0);
+    const struct {
+        std::function<void(Z2DTrans&)> step;
+        Numbers matrix;
+    } rows[] = {
+        {[](Z2DTrans& t) { t.rotateInDegree(90); }, {c, -s, s, c}},
+        {[&](Z2DTrans& t) { t.rotate(double(ninety)); }, {c, -s, s, c}},
+        {[&](Z2DTrans& t) { t.rotate(v); }, {0.6, -0.8, 0.8, 0.6}},
+        {[&](Z2DTrans& t) { t.rotate(none); }, {1, 0, 0, 1}},
+        {[&](Z2DTrans& t) { t.rotate(v, u); }, {24.0 / 25, -7.0 / 25, 7.0 / 25, 24.0 / 25}},
+        {[&](Z2DTrans& t) { t.rotate(v, none); }, {1, 0, 0, 1}},
+        {[](Z2DTrans& t) { t.scale(2, -3); }, {2, 0, 0, -3}},
+        {[](Z2DTrans& t) { t.xScale(5); }, {5, 0, 0, 1}},
+        {[](Z2DTrans& t) { t.yScale(5); }, {1, 0, 0, 5}},
+        {[](Z2DTrans& t) { t.mirror(); }, {-1, 0, 0, 1}},
+        {[](Z2DTrans& t) { t.flip(); }, {1, 0, 0, -1}},
+        {[](Z2DTrans& t) { t.xShear(3); }, {1, 3, 0, 1}},
+        {[](Z2DTrans& t) { t.yShear(3); }, {1, 0, 3, 1}},
+        {[](Z2DTrans& t) { t.compose(trans(5, 6, 7, 8)); }, {5, 6, 7, 8}},
+        {[](Z2DTrans& t) { t.compose(t); }, {1.5, -2, 0.25, 8}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(&row - rows);
+        const Z2DTrans start = trans(1.5, -2, 0.25, 8);
+        Z2DTrans t(start);
+        row.step(t);
+        Z2DMatrix<double> expected;
+        EXPECT_EQ(::matrix(row.matrix).multiply(start, expected), 0);
+        EXPECT_EQ(elementsOf(t), elementsOf(expected));
+        const ZMatrix<double> wide(1, 3, nullptr);
+        t = wide; // and of another shape nothing happens
+        row.step(t);
+        EXPECT_EQ(t.rangeCheck(1, 3), 1);
+        EXPECT_TRUE(at(t * IVector(7, 9), 7, 9));
+    }
+}
+
+TEST(Z2DTrans, MapsPointsAndVectorsAndRoundsIntegers) {
+    const Z2DTrans t = trans(1, 2, 3, 4);
+    const auto maps = [&t](auto v) { return at(t * v, 17, 39) && at(v *= t, 17, 39); };
+    EXPECT_TRUE(maps(DPoint(5, 6)) && maps(DVector(5, 6)));
+    EXPECT_TRUE(maps(IPoint(5, 6)) && maps(IVector(5, 6)));
+    EXPECT_TRUE(at(trans(1e9, 0, 0, -1e9) * IPoint(3, 3), INT_MAX, INT_MIN));
+    EXPECT_TRUE(at(trans(INT_MAX + 0.5, 0, 0, INT_MIN - 0.5) * IPoint(1, 1), INT_MAX, INT_MIN));
+    std::mt19937 random(3);
+    for (int i = 0; i < 2000; ++i) {
+        const double any = static_cast<double>(random()) - 2147483648.0;
+        const double tie = std::trunc(any / (1 << random() % 31)) + 0.5;
+        for (const double value : {tie, std::nextafter(tie, 1e10), std::nextafter(tie, -1e10)})
+            ASSERT_EQ((trans(value, 0, 0, 0) * IPoint(1, 0)).x,
+                      zarnex::truncateToInt(std::round(value)));
+    }
+}
+
+TEST(Z2DTrans, AssignsAndCombinesWithEveryKindOfMatrix) {
+    Z2DTrans t;
+    Z2DRotate turn(0.5);
+    const Z2DMatrix<double> own = matrix({1, 2, 3, 4});
+    const ZMatrix<double> general(own);
+    t = own;
+    turn = general;
+    EXPECT_EQ(elementsOf(t), elementsOf(turn));
+    EXPECT_EQ(elementsOf(t *= turn), Numbers({7, 10, 15, 22}));
+    ((t *= 2) += own) -= general;
+    EXPECT_EQ(t.invert(turn) + t.multiply(general, t) + turn.transpose(t), 0);
+    EXPECT_EQ(elementsOf(turn), Numbers({44.0 / 16, -20.0 / 16, -30.0 / 16, 14.0 / 16}));
+    EXPECT_EQ(elementsOf(t), Numbers({44.0 / 16, -30.0 / 16, -20.0 / 16, 14.0 / 16}));
+}
+
+TEST(Z2DTrans, SplitsIntoScalesAndTheRest) {
+    const Numbers kept{9, 9, 9, 9};
+    const struct {
+        Z2DTrans trans;
+        int nx, ny, status;
+        double sx, sy;
+        int nxAfter, nyAfter;
+        Numbers rest;
+    } rows[] = {
+        {trans(2, 0, 0, 3), 1, 1, 0, 2, 3, 2, 3, {1, 0, 0, 1}},
+        {trans(2, 0, 0, 3), 4, 1, 0, 1, 3, 4, 3, {2, 0, 0, 1}},
+        {trans(3, -4, 4, 3), 1, 2, 0, 5, 3.5, 5, 7, {3 / 5.0, -4 / 3.5, 4 / 5.0, 3 / 3.5}},
+        {trans(0.5, 0, 0, 3), 1, 1, 1, 0, 3, 1, 1, kept}, // too short for one whole
+        {trans(-1, 0, 0, 1), 1, 1, 1, 7, 7, 1, 1, kept},
+        {trans(1, 2, 2, 4), 1, 1, 1, 7, 7, 1, 1, kept},
+        {trans(2, 0, 0, 3), 0, 1, 1, 7, 7, 0, 1, kept},
+        {trans(2, 0, 0, 3), 1, -1, 1, 7, 7, 1, -1, kept},
+        {trans(1e-5, 0, 0, 1e6), 1, 1, 1, 7, 7, 1, 1, kept},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(&row - rows);
+        Z2DTrans rest = trans(9, 9, 9, 9);
+        double sx = 7, sy = 7;
+        int nx = row.nx, ny = row.ny;
+        EXPECT_EQ(row.trans.split(rest, sx, sy, nx, ny), row.status);
+        EXPECT_TRUE(at(DPoint(sx, sy), row.sx, row.sy) &&
+                    at(IPoint(nx, ny), row.nxAfter, row.nyAfter));
+        EXPECT_EQ(elementsOf(rest), row.rest);
+        Z2DTrans self(row.trans);
+        nx = row.nx, ny = row.ny;
+        self.split(self, sx, sy, nx, ny);
+        EXPECT_EQ(elementsOf(self), row.status ? elementsOf(row.trans) : row.rest);
+    }
+}
+
+TEST(Z2DTrans, OddNumbersDoNoHarm) {
+    for (const double x : oddNumbers)
+        for (const double y : oddNumbers) {
+            const DVector v(x, y);
+            Z2DTrans t = trans(x, y, y, x);
+            Z2DTrans rest;
+            double sx = 0, sy = 0;
+            int nx = 1, ny = 1;
+            t.split(rest, sx, sy, nx, ny);
+            t.compose(Z2DRotate(x)).compose(Z2DRotate(v)).compose(Z2DRotate(v, DVector(y, x)));
+            t.rotate(x).rotateInDegree(y).rotate(v).rotate(v, v).scale(x, y).xShear(x).yShear(y);
+            const IPoint p = t * IPoint(INT_MIN, INT_MAX);
+            const double image = (t * DPoint(INT_MIN, INT_MAX)).x;
+            EXPECT_EQ(p.x, zarnex::truncateToInt(std::round(image))) << x << " " << y;
+        }
+    const DVector endless(0, std::numeric_limits<double>::infinity());
+    EXPECT_EQ(Z2DRotate(endless)(0, 0), 0.0); // each component over the length
+    EXPECT_TRUE(std::isnan(Z2DTrans().rotate(endless)(0, 0)));
+}
+
+} // namespace

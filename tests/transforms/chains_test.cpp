@@ -1,0 +1,118 @@
+#include "tests/slots.h"
+
+#include "tests/geometry/coordinates.h"
+
+#include <zarnex/transforms/CompositeTrans.h>
+#include <zarnex/transforms/IdTrans.h>
+#include <zarnex/transforms/ReverseTrans.h>
+#include <zarnex/transforms/ZHashablePointer.h>
+
+namespace {
+
+using Arb = ArbTrans<DPoint>;
+using Chain = CompositeTrans<DPoint>;
+using Pointer = ZHashablePointer<Arb>;
+
+// (x, y) to (x * factor + step, y) and back; counts those alive.
+struct Step : Arb {
+    Step(double factorValue, double stepValue) : factor(factorValue), step(stepValue) {
+        ++alive;
+    }
+    ~Step() override {
+        --alive;
+    }
+    DPoint transform(const DPoint& p) override {
+        return DPoint(Arb::transform(p).x * factor + step, p.y);
+    }
+    DPoint reverseTransform(const DPoint& p) override {
+        return DPoint((Arb::reverseTransform(p).x - step) / factor, p.y);
+    }
+    double factor, step;
+    inline static int alive = 0;
+};
+
+TEST(Chains, MapForwardInOrderAndBackInReverse) {
+    Step twice(2, 0), further(1, 3);
+    IdTrans<DPoint> same;
+    Chain inner(0), chain;
+    EXPECT_TRUE(at(chain.transform(DPoint(5, 6)), 5, 6));
+    EXPECT_TRUE(at(chain.reverseTransform(DPoint(5, 6)), 5, 6));
+    inner.addTrans(&same);
+    inner.addTrans(nullptr);
+    inner.addTrans(&twice);
+    chain.addTrans(&inner);
+    chain.addTrans(&further);
+    chain.addTrans(&chain); // ignored
+    Chain assigned;
+    assigned = chain;
+    ReverseTrans<DPoint> back(&assigned, 0), there(&back, 0);
+    for (Arb* arb : {static_cast<Arb*>(&chain), static_cast<Arb*>(&there)}) {
+        EXPECT_TRUE(at(arb->transform(DPoint(5, 6)), 13, 6));
+        EXPECT_TRUE(at(arb->reverseTransform(DPoint(13, 6)), 5, 6));
+    }
+    EXPECT_TRUE(at(back.transform(DPoint(13, 6)), 5, 6));
+}
+
+TEST(Chains, DeleteWhatTheyOwn) {
+    Step kept(2, 0);
+    {
+        Chain owner(1), guest;
+        owner.addTrans(new Step(1, 1));
+        owner.addTrans(nullptr);
+        owner.addTrans(new ReverseTrans<DPoint>(new Step(1, 1), 2));
+        guest.addTrans(&kept);
+        const Chain copy(guest);
+        ReverseTrans<DPoint> none(nullptr, 1), loose(&kept, 0);
+        EXPECT_TRUE(at(none.transform(DPoint(5, 6)), 5, 6));
+        EXPECT_TRUE(at(none.reverseTransform(DPoint(5, 6)), 5, 6));
+        EXPECT_EQ(Step::alive, 3);
+    }
+    EXPECT_EQ(Step::alive, 1);
+}
+
+TEST(Chains, FieldsAndSlotsStandInTheirOrder) {
+    static_assert(sizeof(IdTrans<DPoint>) == sizeof(void*));
+    static_assert(sizeof(ReverseTrans<DPoint>) == 3 * sizeof(void*));
+    static_assert(sizeof(Chain) == sizeof(std::list<Arb*>) + 2 * sizeof(void*));
+    static_assert(sizeof(Pointer) == 2 * sizeof(void*));
+    EXPECT_EQ(slotOf(&Arb::transform), 2);
+    EXPECT_EQ(slotOf(&Arb::reverseTransform), 3);
+}
+
+template <class Wrapper, class Other>
+void expectOrder(Wrapper& a, Other b, bool same, bool less) {
+    EXPECT_TRUE((a == b) == same && (b == a) == same && (a != b) == !same && (b != a) == !same);
+    if constexpr (!std::is_null_pointer_v<Other>) {
+        EXPECT_TRUE((a < b) == less && (b > a) == less && (a > b) == !(same || less) &&
+                    (b < a) == !(same || less));
+    }
+}
+
+TEST(ZHashablePointer, ComparesWithPointersOnEitherSide) {
+    IdTrans<DPoint> both[2];
+    Pointer first(&both[0]);
+    const Pointer constant(first);
+    const Arb* readOnly = &both[0];
+    expectOrder(first, constant, true, false);
+    expectOrder(first, static_cast<Arb*>(&both[0]), true, false);
+    expectOrder(first, &both[1], false, true);
+    expectOrder(constant, readOnly, true, false);
+    expectOrder(constant, static_cast<const Arb*>(&both[1]), false, true);
+    expectOrder(first, nullptr, false, false);
+    const Pointer none;
+    expectOrder(none, nullptr, true, false);
+    expectOrder(none, first, false, true);
+    EXPECT_TRUE(0 == none && none == 0 && constant.getPointer() == first.getPointer());
+    EXPECT_TRUE(at((*constant).transform(DPoint(1, 2)), 1, 2));
+    const ZList<Pointer> list{none, first};
+    EXPECT_EQ(list.find(&both[0]), 1);
+    EXPECT_TRUE(at(list[1]->transform(DPoint(1, 2)), 1, 2));
+}
+
+TEST(ZHashablePointer, HashesTheLowBitsOfTheAddress) {
+    for (const auto& [address, hash] :
+         {std::pair(0ull, 0), {16ull, 27856}, {0x100000010ull, 27856}, {0xfffffff8ull, -13928}})
+        EXPECT_EQ(Pointer(reinterpret_cast<Arb*>(address)).hash(), hash) << address;
+}
+
+} // namespace

@@ -1,0 +1,3 @@
+#include <zarnex/transforms/ArbTrans.h>
+
+template class ArbTrans<DPoint>;

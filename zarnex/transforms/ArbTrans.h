@@ -1,0 +1,38 @@
+#pragma once
+
+#include <zarnex/config.h>
+#include <zarnex/geometry/DPoint.h>
+
+/// A map of points with a way back, to derive from; for DPoint.
+///
+/// Derived classes make both operations; the bodies that stand here return the point
+/// unchanged.
+template <class P>
+class ArbTrans {
+public:
+    ArbTrans();
+    ArbTrans(const ArbTrans&) = default;
+    ArbTrans& operator=(const ArbTrans&) = default;
+    virtual ~ArbTrans();
+
+    virtual P transform(const P& p) = 0;
+    virtual P reverseTransform(const P& p) = 0;
+};
+
+template <class P>
+ZARNEX_TEMPLATE_INLINE ArbTrans<P>::ArbTrans() {}
+
+template <class P>
+ZARNEX_TEMPLATE_INLINE ArbTrans<P>::~ArbTrans() {}
+
+template <class P>
+P ArbTrans<P>::transform(const P& p) {
+    return p;
+}
+
+template <class P>
+P ArbTrans<P>::reverseTransform(const P& p) {
+    return p;
+}
+
+extern template class ZARNEX_API ArbTrans<DPoint>;

@@ -1,0 +1,3 @@
+#include <zarnex/transforms/CompositeTrans.h>
+
+template class CompositeTrans<DPoint>;

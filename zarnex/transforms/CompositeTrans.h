@@ -1,0 +1,99 @@
+#pragma once
+
+#include <zarnex/transforms/ArbTrans.h>
+
+#include <list>
+
+/// Transforms that act one after the other; for DPoint.
+///
+///     CompositeTrans<DPoint> chain;
+///     chain.addTrans(&a);
+///     chain.addTrans(&b);
+///     chain.transform(p);             // b.transform(a.transform(p))
+///     chain.reverseTransform(q);      // the way back, from b to a
+///
+/// An empty chain is the identity. Mapping is linear in the number of members.
+template <class P>
+class CompositeTrans : public ArbTrans<P> {
+public:
+    /// An empty chain that owns nothing.
+    CompositeTrans();
+
+    /// An empty chain. Its members must outlive it unless `owns` is not 0: then they are
+    /// deleted with it, and each may be added only once.
+    CompositeTrans(int owns);
+
+    /// Kept as is: shallow, also as to ownership. Two chains that own the same members
+    /// both delete them, and what a chain owned before an assignment is not deleted; copy
+    /// only chains that own nothing.
+    CompositeTrans(const CompositeTrans& other);
+    CompositeTrans& operator=(const CompositeTrans& other);
+
+    ~CompositeTrans() override;
+
+    /// Appends `member`. Null is skipped in mapping; nothing for the chain itself, of
+    /// which it must not contain others either.
+    void addTrans(ArbTrans<P>* member);
+
+    P transform(const P& p) override;
+    P reverseTransform(const P& p) override;
+
+private:
+    std::list<ArbTrans<P>*> members_;
+    int owns_;
+};
+
+template <class P>
+CompositeTrans<P>::CompositeTrans() : CompositeTrans(0) {}
+
+template <class P>
+CompositeTrans<P>::CompositeTrans(int owns) : owns_(owns) {}
+
+template <class P>
+CompositeTrans<P>::CompositeTrans(const CompositeTrans& other)
+    : ArbTrans<P>(other), members_(other.members_), owns_(other.owns_) {}
+
+template <class P>
+CompositeTrans<P>& CompositeTrans<P>::operator=(const CompositeTrans& other) {
+    members_ = other.members_;
+    owns_ = other.owns_;
+    return *this;
+}
+
+template <class P>
+CompositeTrans<P>::~CompositeTrans() {
+    if (owns_ == 0)
+        return;
+    for (ArbTrans<P>*& member : members_) {
+        delete member;
+        member = nullptr;
+    }
+}
+
+template <class P>
+void CompositeTrans<P>::addTrans(ArbTrans<P>* member) {
+    if (member != this)
+        members_.push_back(member);
+}
+
+template <class P>
+P CompositeTrans<P>::transform(const P& p) {
+    P image = p;
+    for (ArbTrans<P>* member : members_) {
+        if (member != nullptr)
+            image = member->transform(image);
+    }
+    return image;
+}
+
+template <class P>
+P CompositeTrans<P>::reverseTransform(const P& p) {
+    P image = p;
+    for (auto member = members_.rbegin(); member != members_.rend(); ++member) {
+        if (*member != nullptr)
+            image = (*member)->reverseTransform(image);
+    }
+    return image;
+}
+
+extern template class ZARNEX_API CompositeTrans<DPoint>;

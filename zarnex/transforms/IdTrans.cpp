@@ -1,0 +1,3 @@
+#include <zarnex/transforms/IdTrans.h>
+
+template class IdTrans<DPoint>;

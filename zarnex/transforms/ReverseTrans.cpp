@@ -1,0 +1,3 @@
+#include <zarnex/transforms/ReverseTrans.h>
+
+template class ReverseTrans<DPoint>;

@@ -1,0 +1,3 @@
+#include <zarnex/transforms/Z2DMatrix.h>
+
+template class Z2DMatrix<double>;

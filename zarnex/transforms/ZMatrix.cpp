@@ -1,0 +1,3 @@
+#include <zarnex/transforms/ZMatrix.h>
+
+template class ZMatrix<double>;

@@ -1,0 +1,89 @@
+#pragma once
+
+/// Transforms of one step each, by their names: a rotation, scalings and shears.
+///
+/// They are Z2DTrans in everything but their constructors, so that what was made as one
+/// of them can become any other transform.
+
+#include <zarnex/config.h>
+#include <zarnex/geometry/DVector.h>
+#include <zarnex/transforms/Z2DTrans.h>
+
+/// A rotation about the origin.
+class ZARNEX_API Z2DRotate : public Z2DTrans {
+public:
+    /// The identity.
+    Z2DRotate();
+    Z2DRotate(const Z2DRotate& other);
+
+    /// By `angle`, in radians.
+    Z2DRotate(double angle);
+
+    /// Takes the x axis onto the direction of `v`; the identity if the length of `v` is
+    /// at most 1e-9.
+    Z2DRotate(const DVector& v);
+
+    /// Takes the direction of `v` onto that of `u`; the identity if the product of their
+    /// lengths is at most 1e-9.
+    ///
+    /// Kept as is: the angle is that of `u` less that of `v`, although Z2DRotate(v) turns
+    /// onto its argument.
+    Z2DRotate(const DVector& u, const DVector& v);
+
+    ~Z2DRotate() override;
+
+    Z2DRotate& operator=(const Z2DRotate& other);
+    using Z2DTrans::operator=;
+};
+
+/// x times a factor: (s, 0, 0, 1).
+class ZARNEX_API Z2DXScale : public Z2DTrans {
+public:
+    Z2DXScale();
+    Z2DXScale(const Z2DXScale& other);
+    Z2DXScale(double s);
+
+    ~Z2DXScale() override;
+
+    Z2DXScale& operator=(const Z2DXScale& other);
+    using Z2DTrans::operator=;
+};
+
+/// y times a factor: (1, 0, 0, s).
+class ZARNEX_API Z2DYScale : public Z2DTrans {
+public:
+    Z2DYScale();
+    Z2DYScale(const Z2DYScale& other);
+    Z2DYScale(double s);
+
+    ~Z2DYScale() override;
+
+    Z2DYScale& operator=(const Z2DYScale& other);
+    using Z2DTrans::operator=;
+};
+
+/// x and `k` times y: (1, k, 0, 1).
+class ZARNEX_API Z2DXShear : public Z2DTrans {
+public:
+    Z2DXShear();
+    Z2DXShear(const Z2DXShear& other);
+    Z2DXShear(double k);
+
+    ~Z2DXShear() override;
+
+    Z2DXShear& operator=(const Z2DXShear& other);
+    using Z2DTrans::operator=;
+};
+
+/// y and `k` times x: (1, 0, k, 1).
+class ZARNEX_API Z2DYShear : public Z2DTrans {
+public:
+    Z2DYShear();
+    Z2DYShear(const Z2DYShear& other);
+    Z2DYShear(double k);
+
+    ~Z2DYShear() override;
+
+    Z2DYShear& operator=(const Z2DYShear& other);
+    using Z2DTrans::operator=;
+};
