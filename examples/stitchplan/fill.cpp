@@ -87,18 +87,27 @@ private:
             path_.sewStraightTo(to, stitchLength_);
     }
 
-    // Whether the straight way between two points of the outlines or the inside is short
-    // and runs inside alone.
+    // Whether the straight way between two points is short and runs inside or along an
+    // outline: whether it, or a parallel 0.05 mm beside it, stays inside.
     bool staysInside(const DPoint& from, const DPoint& to) const {
         const DVector way = to - from;
-        if (way.length() > longestWay || !isInside(from + way * 0.5, outlines_))
+        if (way.length() > longestWay)
             return false;
-        const DPoint start = from + way * 0.001; // its ends may stand on an outline
-        const DPoint end = to - way * 0.001;
+        const DVector inset = way * 0.001; // both ends may stand on an outline
+        const DVector aside = way.normalize().ortho(1) * 0.5;
+        for (const double side : {0.0, 1.0, -1.0})
+            if (isFree(from + inset + aside * side, to - inset + aside * side))
+                return true;
+        return false;
+    }
+
+    bool isFree(const DPoint& from, const DPoint& to) const {
+        if (!isInside(from + (to - from) * 0.5, outlines_))
+            return false;
         for (const Outline& outline : outlines_) {
             const int count = outline.corners.length();
             for (int i = 0; i < count; ++i)
-                if (isContainedIntersect(start, end, outline.corners[i],
+                if (isContainedIntersect(from, to, outline.corners[i],
                                          outline.corners[i + 1 < count ? i + 1 : 0]))
                     return false;
         }

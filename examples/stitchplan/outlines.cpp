@@ -134,7 +134,7 @@ void addCorner(Outline& outline, const DPoint& corner, int line) {
 Outline circleOutline(const DPoint& centre, double radius, int line) {
     constexpr double deviation = 0.2;
     constexpr double pi = 3.14159265358979323846;
-    constexpr int fewest = 12;
+    constexpr int fewest = 24; // so that none of its corners is sharp
     const double share = 1.0 - deviation / (std::max)(radius, deviation);
     const int count = (std::max)(fewest, static_cast<int>(std::ceil(pi / std::acos(share))));
     Outline outline;

@@ -11,7 +11,7 @@ namespace stitchplan {
 /// Appends a corner that `line` of the file gives; nothing where it repeats the last one.
 void addCorner(Outline& outline, const DPoint& corner, int line);
 
-/// A circle as an outline of so many corners that its edges keep within 0.02 mm of it.
+/// A circle as an outline of 24 corners or more, whose edges keep within 0.02 mm of it.
 Outline circleOutline(const DPoint& centre, double radius, int line);
 
 /// Maps all corners.

@@ -79,14 +79,16 @@ bool isLengthUnit(int unit) {
 }
 
 double length(std::string_view text, int bareUnit) {
-    const host::Reading reading = readingOf(trimmed(text), bareUnit);
+    text = trimmed(text);
+    const host::Reading reading = readingOf(text, bareUnit);
     if (!isLengthUnit(reading.unit))
-        throw ValueError("no length: " + host::quoted(trimmed(text)));
+        throw ValueError("no length: " + host::quoted(text));
     return inPoints(text, reading);
 }
 
 double lengthOrDensity(std::string_view text, int bareUnit) {
-    const host::Reading reading = readingOf(trimmed(text), bareUnit);
+    text = trimmed(text);
+    const host::Reading reading = readingOf(text, bareUnit);
     if (!isLengthUnit(reading.unit) && reading.unit != zarnex::unitSpi)
         throw ValueError("neither a length nor stitches per inch: " + host::quoted(text));
     return inPoints(text, reading);

@@ -5,13 +5,34 @@ set(picture ${SCRATCH}/plan.svg)
 
 # The motifs that come with the program.
 expect(STATUS 0 ARGS leaf.motif OUT
-[[LEAF
+[[title       A leaf
+outlines    2 outlines, 0 holes, 2 copies
+stitches    2318
+rows        342
+threads     8
+thread      4433.0 mm, 174.53 in
+extent      36.0 mm x 82.0 mm, from (-18.0 mm, -44.0 mm) to (18.0 mm, 38.0 mm)
+density     13.28 spi
 ]])
 expect(STATUS 0 ARGS star.motif OUT
-[[STAR
+[[title       A star with a hole
+outlines    1 outline, 1 hole, 1 copy
+stitches    2883
+rows        262
+threads     6
+thread      5320.7 mm, 209.48 in
+extent      79.8 mm x 76.0 mm, from (-39.9 mm, -34.0 mm) to (39.9 mm, 42.0 mm)
+density     13.76 spi
 ]])
 expect(STATUS 0 ARGS initials.motif OUT
-[[INITIALS
+[[title       Initials
+outlines    3 outlines, 1 hole, 1 copy
+stitches    3622
+rows        675
+threads     11
+thread      6471.9 mm, 254.80 in
+extent      86.6 mm x 86.6 mm, from (-43.3 mm, -43.3 mm) to (43.3 mm, 43.3 mm)
+density     14.22 spi
 ]])
 
 # The picture in the README is what the program draws.
@@ -38,14 +59,39 @@ endfunction()
 # Rows to and fro, shifted from row to row, their ends where the outline is; then once
 # round, counter-clockwise whatever way the outline was drawn.
 set(square "outline 0, 0; 0, 9; 9, 9; 9, 0\nclose\n")
-needles("hoop 40 x 40\nstitch 4\nspacing 3\n${square}" "")
+needles("hoop 40 x 40\nstitch 4\nspacing 3\n${square}"
+"0 -1.5L4 -1.5L8 -1.5L9 -1.5L9 -4.5L5.33 -4.5L1.33 -4.5L0 -4.5L0 -7.5L2.67 -7.5L6.67 -7.5L9 -7.5
+9 0L9 -3L9 -6L9 -9L6 -9L3 -9L0 -9L0 -6L0 -3L0 0L3 0L6 0L9 0")
 # The angle turns the rows, the scale the outline but not the stitches.
-needles("hoop 40 x 40\nstitch 4\nspacing 3\nangle 90 degrees\n${square}" "")
-needles("hoop 40 x 40\nstitch 10\nspacing 9\nscale 200 %\n${square}" "")
-# Holes stay free, and the thread is cut rather than sewn across one.
-needles("hoop 40 x 40\nstitch 12\nspacing 2\n${square}outline 3, 3; 6, 3; 6, 6; 3, 6\nclose\n" "")
+needles("hoop 40 x 40\nstitch 4\nspacing 3\nangle 90 degrees\n${square}"
+"7.5 0L7.5 -4L7.5 -8L7.5 -9L4.5 -9L4.5 -5.33L4.5 -1.33L4.5 0L1.5 0L1.5 -2.67L1.5 -6.67L1.5 -9
+9 0L9 -3L9 -6L9 -9L6 -9L3 -9L0 -9L0 -6L0 -3L0 0L3 0L6 0L9 0")
+needles("hoop 40 x 40\nstitch 10\nspacing 9\nscale 200 %\n${square}"
+"0 -4.5L10 -4.5L18 -4.5L18 -13.5L13.33 -13.5L3.33 -13.5L0 -13.5
+18 0L18 -9L18 -18L9 -18L0 -18L0 -9L0 0L9 0L18 0")
+# A hole stays free: the rows beside it are sewn one side after the other, on one thread.
+needles("hoop 40 x 40\nstitch 12\nspacing 2\n${square}outline 3, 3; 6, 3; 6, 6; 3, 6\nclose\n"
+"0 -1.5L9 -1.5L9 -3.5L6 -3.5L6 -5.5L8 -5.5L9 -5.5L9 -7.5L0 -7.5L0 -5.5L3 -5.5L3 -3.5L0 -3.5
+9 0L9 -9L0 -9L0 0L9 0
+3 -6L6 -6L6 -3L3 -3L3 -6")
+# Between two outlines the thread is cut.
+needles("hoop 40 x 40\nstitch 9\nspacing 9\n${square}outline 10, 0; 14, 0; 14, 9\nclose\n"
+"0 -4.5L9 -4.5
+12 -4.5L14 -4.5
+9 0L9 -9L0 -9L0 0L9 0
+10 0L14 0L14 -9L12 -4.5L10 0")
 # Copies: turned, then mirrored, all about the middle.
 needles("hoop 40 x 40\nstitch 5\nspacing 9\nrepeat 2 by 90 degrees\nrepeat mirrored
-outline 2, 1; 7, 1; 7, 5\nclose\n" "")
+outline 2, 1; 7, 1; 7, 5\nclose\n"
+"4.5 -3L5 -3L7 -3
+2 -1L7 -1L7 -5L4.5 -3L2 -1
+-3 -4.5L-3 -5L-3 -7
+-1 -2L-1 -7L-5 -7L-3 -4.5L-1 -2
+-4.5 -3L-5 -3L-7 -3
+-2 -1L-7 -1L-7 -5L-4.5 -3L-2 -1
+3 -4.5L3 -5L3 -7
+1 -2L1 -7L5 -7L3 -4.5L1 -2")
 # Outlines: needles in sharp corners, equal stitches between, at least three round a circle.
-needles("hoop 40 x 40\nstitch 40 mm\nspacing 50\ncircle 1, 0; 0, 1; -1, 0\n" "")
+needles("hoop 40 x 40\nstitch 40 mm\nspacing 50\ncircle 1, 0; 0, 1; -1, 0\n"
+"-1 0L0 0L1 0
+1 0L-0.5 -0.87L-0.5 0.87L1 0")

@@ -37,7 +37,7 @@ refuse("hoop 9 x 9" "" "neither an outline nor a circle is given")
 refuse("hoop 9" "1 hoop 9" "a hoop is two lengths with an x between")
 refuse("hoop 9 x wide" "1 hoop 9 x wide" "cannot read \"wide\": no number")
 refuse("hoop 9 x 0 mm" "1 hoop 9 x 0 mm" "the sides of a hoop must be above zero")
-refuse("hoop 9 x 2 miles" "1 hoop 9 x 2 miles" "cannot read \"2 miles\": \"les\" is no part of it")
+refuse("hoop 9 x 2 miles" "1 hoop 9 x 2 miles" "cannot read \"2 miles\": \"miles\" is no part of it")
 refuse("hoop 9 x 20000" "1 hoop 9 x 20000" "longer than 10 m: \"20000\"")
 refuse("stitch 0.29 mm" "1 stitch 0.29 mm" "the stitch length must be 0.3 mm or more")
 refuse("stitch 40 per sq cm" "1 stitch 40 per sq cm"
