@@ -94,10 +94,12 @@ TEST(Z2DTrans, MapsPointsAndVectorsAndRoundsIntegers) {
     std::mt19937 random(3);
     for (int i = 0; i < 2000; ++i) {
         const double any = static_cast<double>(random()) - 2147483648.0;
-        const double tie = std::trunc(any / (1 << random() % 31)) + 0.5;
-        for (const double value : {tie, std::nextafter(tie, 1e10), std::nextafter(tie, -1e10)})
-            ASSERT_EQ((trans(value, 0, 0, 0) * IPoint(1, 0)).x,
-                      zarnex::truncateToInt(std::round(value)));
+        const double below = std::trunc(any / (1 << random() % 31)), tie = below + 0.5;
+        const auto rounded = [](double x) { return (trans(x, 0, 0, 0) * IPoint(1, 0)).x; };
+        const int above = zarnex::truncateToInt(below + 1.0);
+        ASSERT_EQ(rounded(tie), tie > 0.0 ? above : below);
+        ASSERT_EQ(rounded(std::nextafter(tie, -1e10)), below);
+        ASSERT_EQ(rounded(std::nextafter(tie, 1e10)), above);
     }
 }
 

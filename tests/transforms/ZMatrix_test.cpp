@@ -99,10 +99,12 @@ TEST(ZMatrix, ProductAgreesWithPlainSumsAlsoInPlace) {
 
 TEST(ZMatrix, ShapesThatDoNotFitAreRefused) {
     Matrix a = matrix(2, 3, {1, 2, 3, 4, 5, 6});
-    for (const auto& [rows, cols] : {std::pair(2, 2), {3, 3}, {2, 3}}) {
+    const Matrix mirrored(3, 2, &a(0, 0));
+    for (const auto& [rows, cols] : {std::pair(3, 3), {2, 3}, {1, 2}, {2, 1}}) {
+        SCOPED_TRACE(testing::Message() << rows << " x " << cols);
         Matrix out = matrix(rows, cols, Numbers(9, 8.0));
         const Numbers before = elementsOf(out);
-        EXPECT_EQ(a.multiply(a, out) + a.transpose(out), 2) << rows << " x " << cols;
+        EXPECT_EQ(a.multiply(a, out) + a.multiply(mirrored, out) + a.transpose(out), 3);
         EXPECT_EQ(elementsOf(out), before);
     }
     EXPECT_EQ(a.transpose(a) + a.identity(), 2);

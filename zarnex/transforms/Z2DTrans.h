@@ -102,8 +102,8 @@ ZARNEX_API DVector operator*(const Z2DTrans& t, const DVector& v);
 /// The same, computed in doubles and rounded, halves away from zero; the nearest int
 /// where a coordinate does not fit and 0 for NaN.
 ///
-/// Kept as is: rounds as std::round does, although IPoint::roundScale() takes the largest
-/// double below 0.5 to 1 (see zarnex::roundHalfAway).
+/// Kept as is: exact, so that the largest double below 0.5 becomes 0, although
+/// IPoint::roundScale() takes it to 1 (see zarnex::roundHalfAway).
 ZARNEX_API IPoint operator*(const Z2DTrans& t, const IPoint& p);
 ZARNEX_API IVector operator*(const Z2DTrans& t, const IVector& v);
 
@@ -170,7 +170,8 @@ ZARNEX_INLINE Z2DTrans& Z2DTrans::compose(const Z2DTrans& b) {
 
 namespace zarnex::detail {
 
-/// truncateToInt(std::round(value)) without a call: what truncation leaves is exact.
+/// truncateToInt(std::round(value)) where std::round is exact, which that of mingw-w64 is
+/// not. Without a call, and exact because what truncation leaves is.
 constexpr int roundedToInt(double value) {
     if (!(value > -2147483648.5 && value < 2147483647.5))
         return truncateToInt(value);
