@@ -6,6 +6,7 @@
 #include <zarnex/geometry/IPoint.h>
 #include <zarnex/geometry/IVector.h>
 #include <zarnex/geometry/formulas.h>
+#include <zarnex/geometry/rounding.h>
 #include <zarnex/transforms/Z2DMatrix.h>
 
 #include <type_traits>
@@ -170,16 +171,6 @@ ZARNEX_INLINE Z2DTrans& Z2DTrans::compose(const Z2DTrans& b) {
 
 namespace zarnex::detail {
 
-/// truncateToInt(std::round(value)) where std::round is exact, which that of mingw-w64 is
-/// not. Without a call, and exact because what truncation leaves is.
-constexpr int roundedToInt(double value) {
-    if (!(value > -2147483648.5 && value < 2147483647.5))
-        return truncateToInt(value);
-    const int whole = static_cast<int>(value);
-    const double rest = value - whole;
-    return whole + (rest >= 0.5) - (rest <= -0.5);
-}
-
 /// The image of `v`, a point or vector of either kind.
 template <class V>
 V transformed(const Z2DMatrix<double>& m, const V& v) {
@@ -187,7 +178,7 @@ V transformed(const Z2DMatrix<double>& m, const V& v) {
     if constexpr (std::is_same_v<decltype(V::x), double>)
         return V(image.x, image.y);
     else
-        return V(roundedToInt(image.x), roundedToInt(image.y));
+        return V(roundToNearestInt(image.x), roundToNearestInt(image.y));
 }
 
 } // namespace zarnex::detail
