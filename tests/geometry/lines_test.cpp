@@ -59,10 +59,10 @@ TEST(LineIntersection, EndsAtTheBoundOfTheDeterminantAndOfInt) {
     EXPECT_TRUE(at(grid, 99, 99));
     EXPECT_EQ(intersect(grid, IPoint(INT_MIN, 0), steep, IPoint(0, 1), level), 0);
     EXPECT_TRUE(at(grid, INT_MIN, 1));
-    IPoint middle; // (-0.5, -0.5); the differences do not fit
-    const IPoint low(INT_MIN, INT_MIN), high(INT_MAX, INT_MAX);
-    intersect(&middle, low, high, IPoint(INT_MIN, INT_MAX), IPoint(INT_MAX, INT_MIN));
-    EXPECT_TRUE(at(middle, -1, -1));
+    // Differences of 2^32 - 1: the line crosses x = 0 just above 0.5.
+    const IPoint west(INT_MIN, 0), east(INT_MAX, 1), south(0, INT_MIN), north(0, INT_MAX);
+    EXPECT_EQ(intersect(&grid, west, east, south, north), 0);
+    EXPECT_TRUE(at(grid, 0, 1));
 }
 
 TEST(ContainedIntersection, IsThatOfSidesAndNotMissedByRounding) {
@@ -97,7 +97,7 @@ TEST(Collinear, MeasuresOneEndAndTheSineOfTheAngle) {
         EXPECT_EQ(collinear(o, b, c, d, 0.5, angleTol), expected) << cx << " " << cy;
         EXPECT_EQ(collinear(c, d, o, b, 0.5, angleTol), swapped) << cx << " " << cy;
     }
-    DPoint a(0, 0), b(10, 0), tenth(10, 0.1), off(10, 0.11), low(-5, 0.0872), high(-5, 0.0873);
+    DPoint a(0, 0), b(10, 0), tenth(10, 0.1), off(10, 0.11), low(-5, 0.087279), high(-5, 0.08728);
     EXPECT_TRUE(collinear(&a, &b, &a, &tenth) && collinear(&a, &b, &a, &low));
     EXPECT_FALSE(collinear(&a, &b, &a, &off) || collinear(&a, &b, &a, &high));
     EXPECT_FALSE(collinear(&a, &b, &a, nullptr));
@@ -132,7 +132,7 @@ TEST(PointOnSegment, MirroredSlopesPassAndToleranceWidensOneEnd) {
         {-0.5, 0, 0, 0, 8, 0, 1}, {8.5, 0, 0, 0, 8, 0, 2}, {4, 0.07, 0, 0, 8, 0, 0},
         {-0.5, 0, 8, 0, 0, 0, 3}, {8.5, 0, 8, 0, 0, 0, 2}, {0.5, 0.5, 0, 0, 0, 0.4, 0},
         {0, -0.5, 0, 0, 0, 8, 1}, {0, 8.5, 0, 0, 0, 8, 2}, {0.2, 0.2, 0, 0, 0.4, 0, 2},
-        {0, -0.5, 0, 8, 0, 0, 3}, {0, 8.5, 0, 8, 0, 0, 2}};
+        {0, -0.5, 0, 8, 0, 0, 3}, {0, 8.5, 0, 8, 0, 0, 2}, {-0.1, 18, 0, 0, 0.4, 8, 3}};
     for (const auto& [px, py, ax, ay, bx, by, code] : rows)
         EXPECT_EQ(pointOnLineSegment(DPoint(px, py), DPoint(ax, ay), DPoint(bx, by), 0.5), code)
             << px << " " << py << " " << ax << " " << ay;
@@ -143,16 +143,16 @@ TEST(PointOnSegment, MirroredSlopesPassAndToleranceWidensOneEnd) {
 }
 
 TEST(QuickCheck, IsAnEllipseAndTwoCircles) {
-    // p, the end of ab on the x axis, the result, relTol and the result with it.
+    // p, the end of ab on the x axis, all in tolerances; the result, relTol, the result with it.
     const double rows[][6] = {
         {5, 0.49, 10, 1, 0, 1},  {5, 0.51, 10, 0, 1e-9, 0}, {5, 0.51, 10, 0, 2e-9, 1},
         {11, 0, 10, 1, 0, 1},    {-1, 0, 10, 1, 0, 1},      {11.1, 0, 10, 0, 0, 0},
         {5, 1, 10, 0, 0.03, 0},  {5, 1, 10, 0, 0.05, 1},    {1e6, 0.9, 10, 0, 0.1, 1},
         {0.9, -1, 0, 0, 0.1, 1}, {0.5, 1.1, 0, 0, 0.1, 0},  {0.9, -1, 0, 0, 0, 0}};
     for (const auto& [x, y, end, found, relTol, foundAtSecond] : rows) {
-        const DPoint p(x, y), a(0, 0), b(end, 0);
-        EXPECT_EQ(quickCheckPointOnLine(p, a, b, 1), found) << x << " " << y;
-        EXPECT_EQ(quickCheckPointOnLine(p, a, b, 1, relTol), foundAtSecond) << x << " " << relTol;
+        const DPoint p(x / 2, y / 2), a(0, 0), b(end / 2, 0);
+        EXPECT_EQ(quickCheckPointOnLine(p, a, b, 0.5), found) << x << " " << y;
+        EXPECT_EQ(quickCheckPointOnLine(p, a, b, 0.5, relTol), foundAtSecond) << x << " " << relTol;
     }
 }
 
