@@ -166,8 +166,8 @@ ZARNEX_INLINE DPoint DPoint::operator/(const double& d) const {
 }
 
 ZARNEX_INLINE int DPoint::operator==(const DPoint& p) const {
-    using namespace zarnex::detail;
-    return sameWithinTolerance(widened(*this), widened(p));
+    namespace detail = zarnex::detail;
+    return detail::sameWithinTolerance(detail::widened(*this), detail::widened(p));
 }
 
 ZARNEX_INLINE int DPoint::operator!=(const DPoint& p) const {
@@ -191,19 +191,19 @@ ZARNEX_INLINE int DPoint::operator>=(const DPoint& p) const {
 }
 
 ZARNEX_INLINE double DPoint::distance(const DPoint& p) const {
-    using namespace zarnex::detail;
-    return length(offset(widened(*this), widened(p)));
+    namespace detail = zarnex::detail;
+    return detail::length(detail::offset(detail::widened(*this), detail::widened(p)));
 }
 
 ZARNEX_INLINE double DPoint::squaredDistance(const DPoint& p) const {
-    using namespace zarnex::detail;
-    const Pair d = offset(widened(*this), widened(p));
-    return dot(d, d);
+    namespace detail = zarnex::detail;
+    const detail::Pair d = detail::offset(detail::widened(*this), detail::widened(p));
+    return detail::dot(d, d);
 }
 
 ZARNEX_INLINE double DPoint::manhattanDistance(const DPoint& p) const {
-    using namespace zarnex::detail;
-    return manhattanLength(offset(widened(*this), widened(p)));
+    namespace detail = zarnex::detail;
+    return detail::manhattanLength(detail::offset(detail::widened(*this), detail::widened(p)));
 }
 
 ZARNEX_INLINE DPoint& DPoint::translate(double dx, double dy) {

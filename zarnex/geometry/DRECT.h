@@ -174,9 +174,10 @@ ZARNEX_INLINE int EqualDRect(const DRECT* a, const DRECT* b) {
 }
 
 ZARNEX_INLINE int PointInDRect(const DRECT* r, const DBLPOINT* p) {
-    using namespace zarnex::detail;
-    return r != nullptr && p != nullptr && p->x >= lowEnd(r->left) && p->x <= highEnd(r->right) &&
-           p->y >= lowEnd(r->top) && p->y <= highEnd(r->bottom);
+    namespace detail = zarnex::detail;
+    return r != nullptr && p != nullptr && p->x >= detail::lowEnd(r->left) &&
+           p->x <= detail::highEnd(r->right) && p->y >= detail::lowEnd(r->top) &&
+           p->y <= detail::highEnd(r->bottom);
 }
 
 ZARNEX_INLINE int PtInDRect(const DRECT* r, const DBLPOINT* p) {
@@ -186,25 +187,27 @@ ZARNEX_INLINE int PtInDRect(const DRECT* r, const DBLPOINT* p) {
 }
 
 ZARNEX_INLINE int IntersectDRect(DRECT* dst, const DRECT* a, const DRECT* b) {
-    using namespace zarnex::detail;
+    namespace detail = zarnex::detail;
     if (dst == nullptr)
         return 0;
-    if (IsDRectEmpty(a) || IsDRectEmpty(b) || disjoint(*a, *b)) {
+    if (IsDRectEmpty(a) || IsDRectEmpty(b) || detail::disjoint(*a, *b)) {
         SetDRectEmpty(dst);
         return 0;
     }
-    *dst = DRECT{greaterEdge(a->left, b->left), greaterEdge(a->top, b->top),
-                 smallerEdge(a->right, b->right), smallerEdge(a->bottom, b->bottom)};
+    *dst =
+        DRECT{detail::greaterEdge(a->left, b->left), detail::greaterEdge(a->top, b->top),
+              detail::smallerEdge(a->right, b->right), detail::smallerEdge(a->bottom, b->bottom)};
     return 1;
 }
 
 ZARNEX_INLINE void UnionDRect(DRECT* dst, const DRECT* a, const DRECT* b) {
-    using namespace zarnex::detail;
+    namespace detail = zarnex::detail;
     if (dst == nullptr)
         return;
     if (!IsDRectEmpty(a) && !IsDRectEmpty(b))
-        *dst = DRECT{smallerEdge(a->left, b->left), smallerEdge(a->top, b->top),
-                     greaterEdge(a->right, b->right), greaterEdge(a->bottom, b->bottom)};
+        *dst = DRECT{detail::smallerEdge(a->left, b->left), detail::smallerEdge(a->top, b->top),
+                     detail::greaterEdge(a->right, b->right),
+                     detail::greaterEdge(a->bottom, b->bottom)};
     else if (const DRECT* rest = IsDRectEmpty(a) ? b : a; rest != nullptr)
         *dst = *rest;
     else
@@ -212,8 +215,8 @@ ZARNEX_INLINE void UnionDRect(DRECT* dst, const DRECT* a, const DRECT* b) {
 }
 
 ZARNEX_INLINE int DRectInDRect(const DRECT* a, const DRECT* b) {
-    using namespace zarnex::detail;
-    if (IsDRectEmpty(a) || IsDRectEmpty(b) || disjoint(*a, *b))
+    namespace detail = zarnex::detail;
+    if (IsDRectEmpty(a) || IsDRectEmpty(b) || detail::disjoint(*a, *b))
         return 0;
-    return strictlyInside(*a, *b) ? 2 : strictlyInside(*b, *a) ? 3 : 1;
+    return detail::strictlyInside(*a, *b) ? 2 : detail::strictlyInside(*b, *a) ? 3 : 1;
 }

@@ -154,8 +154,8 @@ ZARNEX_INLINE double DVector::operator*(const DVector& v) const {
 }
 
 ZARNEX_INLINE int DVector::operator==(const DVector& v) const {
-    using namespace zarnex::detail;
-    return sameWithinTolerance(widened(*this), widened(v));
+    namespace detail = zarnex::detail;
+    return detail::sameWithinTolerance(detail::widened(*this), detail::widened(v));
 }
 
 ZARNEX_INLINE int DVector::operator!=(const DVector& v) const {
@@ -183,8 +183,8 @@ ZARNEX_INLINE double DVector::cross(const DVector& v) const {
 }
 
 ZARNEX_INLINE DVector DVector::normalize() const {
-    using namespace zarnex::detail;
-    return truncated<DVector>(normalized(widened(*this)));
+    namespace detail = zarnex::detail;
+    return detail::truncated<DVector>(detail::normalized(detail::widened(*this)));
 }
 
 ZARNEX_INLINE DVector DVector::ortho(int s) const {
@@ -192,13 +192,15 @@ ZARNEX_INLINE DVector DVector::ortho(int s) const {
 }
 
 ZARNEX_INLINE DVector DVector::projectOn(const DVector& v) const {
-    using namespace zarnex::detail;
-    return truncated<DVector>(projected(widened(*this), widened(v)));
+    namespace detail = zarnex::detail;
+    return detail::truncated<DVector>(
+        detail::projected(detail::widened(*this), detail::widened(v)));
 }
 
 ZARNEX_INLINE DVector DVector::projectOnUnit(const DVector& unit) const {
-    using namespace zarnex::detail;
-    return truncated<DVector>(projectedOnUnit(widened(*this), widened(unit)));
+    namespace detail = zarnex::detail;
+    return detail::truncated<DVector>(
+        detail::projectedOnUnit(detail::widened(*this), detail::widened(unit)));
 }
 
 ZARNEX_INLINE DVector DVector::mirror(const DVector& v) const {
@@ -214,8 +216,8 @@ ZARNEX_INLINE DVector& DVector::scale(double sx, double sy) {
 }
 
 ZARNEX_INLINE int DVector::isSameSense(const DVector& v) const {
-    using namespace zarnex::detail;
-    return sameSense(widened(*this), widened(v));
+    namespace detail = zarnex::detail;
+    return detail::sameSense(detail::widened(*this), detail::widened(v));
 }
 
 ZARNEX_INLINE DVector operator*(double s, const DVector& v) {

@@ -99,28 +99,28 @@ ZARNEX_INLINE int IPoint::yval() const {
 }
 
 ZARNEX_INLINE IPoint IPoint::operator+(const IPoint& p) const {
-    using namespace zarnex::detail;
-    return IPoint(sum(x, p.x), sum(y, p.y));
+    namespace detail = zarnex::detail;
+    return IPoint(detail::sum(x, p.x), detail::sum(y, p.y));
 }
 
 ZARNEX_INLINE IPoint IPoint::operator+(const IVector& v) const {
-    using namespace zarnex::detail;
-    return IPoint(sum(x, v.x), sum(y, v.y));
+    namespace detail = zarnex::detail;
+    return IPoint(detail::sum(x, v.x), detail::sum(y, v.y));
 }
 
 ZARNEX_INLINE IVector IPoint::operator-(const IPoint& p) const {
-    using namespace zarnex::detail;
-    return IVector(difference(x, p.x), difference(y, p.y));
+    namespace detail = zarnex::detail;
+    return IVector(detail::difference(x, p.x), detail::difference(y, p.y));
 }
 
 ZARNEX_INLINE IPoint IPoint::operator-(const IVector& v) const {
-    using namespace zarnex::detail;
-    return IPoint(difference(x, v.x), difference(y, v.y));
+    namespace detail = zarnex::detail;
+    return IPoint(detail::difference(x, v.x), detail::difference(y, v.y));
 }
 
 ZARNEX_INLINE IPoint IPoint::operator-() const {
-    using namespace zarnex::detail;
-    return IPoint(negated(x), negated(y));
+    namespace detail = zarnex::detail;
+    return IPoint(detail::negated(x), detail::negated(y));
 }
 
 ZARNEX_INLINE IPoint& IPoint::operator+=(const IPoint& p) {
@@ -132,8 +132,8 @@ ZARNEX_INLINE IPoint& IPoint::operator+=(const IVector& v) {
 }
 
 ZARNEX_INLINE IPoint& IPoint::operator-=(const IPoint& p) {
-    using namespace zarnex::detail;
-    return *this = IPoint(difference(x, p.x), difference(y, p.y));
+    namespace detail = zarnex::detail;
+    return *this = IPoint(detail::difference(x, p.x), detail::difference(y, p.y));
 }
 
 ZARNEX_INLINE IPoint& IPoint::operator-=(const IVector& v) {
@@ -141,13 +141,13 @@ ZARNEX_INLINE IPoint& IPoint::operator-=(const IVector& v) {
 }
 
 ZARNEX_INLINE IPoint IPoint::operator*(const double& s) const {
-    using namespace zarnex::detail;
-    return truncated<IPoint>(scaled(widened(*this), s, s));
+    namespace detail = zarnex::detail;
+    return detail::truncated<IPoint>(detail::scaled(detail::widened(*this), s, s));
 }
 
 ZARNEX_INLINE IPoint IPoint::operator/(const double& d) const {
-    using namespace zarnex::detail;
-    return truncated<IPoint>(divided(widened(*this), d));
+    namespace detail = zarnex::detail;
+    return detail::truncated<IPoint>(detail::divided(detail::widened(*this), d));
 }
 
 ZARNEX_INLINE int IPoint::operator==(const IPoint& p) const {
@@ -175,30 +175,30 @@ ZARNEX_INLINE int IPoint::operator>=(const IPoint& p) const {
 }
 
 ZARNEX_INLINE double IPoint::distance(const IPoint& p) const {
-    using namespace zarnex::detail;
-    return length(offset(widened(*this), widened(p)));
+    namespace detail = zarnex::detail;
+    return detail::length(detail::offset(detail::widened(*this), detail::widened(p)));
 }
 
 ZARNEX_INLINE double IPoint::squaredDistance(const IPoint& p) const {
-    using namespace zarnex::detail;
-    const Pair d = offset(widened(*this), widened(p));
-    return dot(d, d);
+    namespace detail = zarnex::detail;
+    const detail::Pair d = detail::offset(detail::widened(*this), detail::widened(p));
+    return detail::dot(d, d);
 }
 
 ZARNEX_INLINE double IPoint::manhattanDistance(const IPoint& p) const {
-    using namespace zarnex::detail;
-    return manhattanLength(offset(widened(*this), widened(p)));
+    namespace detail = zarnex::detail;
+    return detail::manhattanLength(detail::offset(detail::widened(*this), detail::widened(p)));
 }
 
 ZARNEX_INLINE IPoint& IPoint::translate(double dx, double dy) {
-    using namespace zarnex::detail;
-    const Pair here = widened(*this);
-    return *this = truncated<IPoint>({here.x + dx, here.y + dy});
+    namespace detail = zarnex::detail;
+    const detail::Pair here = detail::widened(*this);
+    return *this = detail::truncated<IPoint>({here.x + dx, here.y + dy});
 }
 
 ZARNEX_INLINE IPoint& IPoint::scale(double sx, double sy) {
-    using namespace zarnex::detail;
-    return *this = truncated<IPoint>(scaled(widened(*this), sx, sy));
+    namespace detail = zarnex::detail;
+    return *this = detail::truncated<IPoint>(detail::scaled(detail::widened(*this), sx, sy));
 }
 
 extern template class ZARNEX_API ZList<IPoint>;

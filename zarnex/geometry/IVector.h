@@ -89,18 +89,18 @@ ZARNEX_INLINE int IVector::yval() const {
 }
 
 ZARNEX_INLINE IVector IVector::operator+(const IVector& v) const {
-    using namespace zarnex::detail;
-    return IVector(sum(x, v.x), sum(y, v.y));
+    namespace detail = zarnex::detail;
+    return IVector(detail::sum(x, v.x), detail::sum(y, v.y));
 }
 
 ZARNEX_INLINE IVector IVector::operator-(const IVector& v) const {
-    using namespace zarnex::detail;
-    return IVector(difference(x, v.x), difference(y, v.y));
+    namespace detail = zarnex::detail;
+    return IVector(detail::difference(x, v.x), detail::difference(y, v.y));
 }
 
 ZARNEX_INLINE IVector IVector::operator-() const {
-    using namespace zarnex::detail;
-    return IVector(negated(x), negated(y));
+    namespace detail = zarnex::detail;
+    return IVector(detail::negated(x), detail::negated(y));
 }
 
 ZARNEX_INLINE IVector& IVector::operator+=(const IVector& v) {
@@ -108,13 +108,13 @@ ZARNEX_INLINE IVector& IVector::operator+=(const IVector& v) {
 }
 
 ZARNEX_INLINE IVector IVector::operator*(const double& s) const {
-    using namespace zarnex::detail;
-    return truncated<IVector>(scaled(widened(*this), s, s));
+    namespace detail = zarnex::detail;
+    return detail::truncated<IVector>(detail::scaled(detail::widened(*this), s, s));
 }
 
 ZARNEX_INLINE int IVector::operator*(const IVector& v) const {
-    using namespace zarnex::detail;
-    return sum(product(x, v.x), product(y, v.y));
+    namespace detail = zarnex::detail;
+    return detail::sum(detail::product(x, v.x), detail::product(y, v.y));
 }
 
 ZARNEX_INLINE int IVector::operator==(const IVector& v) const {
@@ -138,8 +138,8 @@ ZARNEX_INLINE int IVector::operator>(const IVector& v) const {
 }
 
 ZARNEX_INLINE double IVector::squaredLength() const {
-    using namespace zarnex::detail;
-    return dot(widened(*this), widened(*this));
+    namespace detail = zarnex::detail;
+    return detail::dot(detail::widened(*this), detail::widened(*this));
 }
 
 ZARNEX_INLINE double IVector::cross(const IVector& v) const {
@@ -147,23 +147,25 @@ ZARNEX_INLINE double IVector::cross(const IVector& v) const {
 }
 
 ZARNEX_INLINE IVector IVector::normalize() const {
-    using namespace zarnex::detail;
-    return truncated<IVector>(normalized(widened(*this)));
+    namespace detail = zarnex::detail;
+    return detail::truncated<IVector>(detail::normalized(detail::widened(*this)));
 }
 
 ZARNEX_INLINE IVector IVector::ortho(int s) const {
-    using namespace zarnex::detail;
-    return IVector(product(negated(y), s), product(x, s));
+    namespace detail = zarnex::detail;
+    return IVector(detail::product(detail::negated(y), s), detail::product(x, s));
 }
 
 ZARNEX_INLINE IVector IVector::projectOn(const IVector& v) const {
-    using namespace zarnex::detail;
-    return truncated<IVector>(projected(widened(*this), widened(v)));
+    namespace detail = zarnex::detail;
+    return detail::truncated<IVector>(
+        detail::projected(detail::widened(*this), detail::widened(v)));
 }
 
 ZARNEX_INLINE IVector IVector::projectOnUnit(const IVector& unit) const {
-    using namespace zarnex::detail;
-    return truncated<IVector>(projectedOnUnit(widened(*this), widened(unit)));
+    namespace detail = zarnex::detail;
+    return detail::truncated<IVector>(
+        detail::projectedOnUnit(detail::widened(*this), detail::widened(unit)));
 }
 
 ZARNEX_INLINE IVector IVector::mirror(const IVector& v) const {
@@ -175,11 +177,11 @@ ZARNEX_INLINE IVector& IVector::reverse() {
 }
 
 ZARNEX_INLINE IVector& IVector::scale(double sx, double sy) {
-    using namespace zarnex::detail;
-    return *this = truncated<IVector>(scaled(widened(*this), sx, sy));
+    namespace detail = zarnex::detail;
+    return *this = detail::truncated<IVector>(detail::scaled(detail::widened(*this), sx, sy));
 }
 
 ZARNEX_INLINE int IVector::isSameSense(const IVector& v) const {
-    using namespace zarnex::detail;
-    return sameSense(widened(*this), widened(v));
+    namespace detail = zarnex::detail;
+    return detail::sameSense(detail::widened(*this), detail::widened(v));
 }

@@ -104,32 +104,32 @@ ZARNEX_TEMPLATE_INLINE T ZCoord<T>::yval() const {
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE ZCoord<T> ZCoord<T>::operator+(const ZCoord& p) const {
-    using namespace zarnex::detail;
-    return ZCoord(sum(x, p.x), sum(y, p.y));
+    namespace detail = zarnex::detail;
+    return ZCoord(detail::sum(x, p.x), detail::sum(y, p.y));
 }
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE ZCoord<T> ZCoord<T>::operator+(const ZVector<T>& v) const {
-    using namespace zarnex::detail;
-    return ZCoord(sum(x, v.x), sum(y, v.y));
+    namespace detail = zarnex::detail;
+    return ZCoord(detail::sum(x, v.x), detail::sum(y, v.y));
 }
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE ZVector<T> ZCoord<T>::operator-(const ZCoord& p) const {
-    using namespace zarnex::detail;
-    return ZVector<T>(difference(x, p.x), difference(y, p.y));
+    namespace detail = zarnex::detail;
+    return ZVector<T>(detail::difference(x, p.x), detail::difference(y, p.y));
 }
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE ZCoord<T> ZCoord<T>::operator-(const ZVector<T>& v) const {
-    using namespace zarnex::detail;
-    return ZCoord(difference(x, v.x), difference(y, v.y));
+    namespace detail = zarnex::detail;
+    return ZCoord(detail::difference(x, v.x), detail::difference(y, v.y));
 }
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE ZCoord<T> ZCoord<T>::operator-() const {
-    using namespace zarnex::detail;
-    return ZCoord(negated(x), negated(y));
+    namespace detail = zarnex::detail;
+    return ZCoord(detail::negated(x), detail::negated(y));
 }
 
 template <class T>
@@ -144,8 +144,8 @@ ZARNEX_TEMPLATE_INLINE ZCoord<T>& ZCoord<T>::operator+=(const ZVector<T>& v) {
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE ZCoord<T>& ZCoord<T>::operator-=(const ZCoord& p) {
-    using namespace zarnex::detail;
-    return *this = ZCoord(difference(x, p.x), difference(y, p.y));
+    namespace detail = zarnex::detail;
+    return *this = ZCoord(detail::difference(x, p.x), detail::difference(y, p.y));
 }
 
 template <class T>
@@ -155,14 +155,14 @@ ZARNEX_TEMPLATE_INLINE ZCoord<T>& ZCoord<T>::operator-=(const ZVector<T>& v) {
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE ZCoord<T> ZCoord<T>::operator*(const double& s) const {
-    using namespace zarnex::detail;
-    return truncated<ZCoord<T>>(scaled(widened(*this), s, s));
+    namespace detail = zarnex::detail;
+    return detail::truncated<ZCoord<T>>(detail::scaled(detail::widened(*this), s, s));
 }
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE ZCoord<T> ZCoord<T>::operator/(const double& d) const {
-    using namespace zarnex::detail;
-    return truncated<ZCoord<T>>(divided(widened(*this), d));
+    namespace detail = zarnex::detail;
+    return detail::truncated<ZCoord<T>>(detail::divided(detail::widened(*this), d));
 }
 
 template <class T>
@@ -197,59 +197,61 @@ ZARNEX_TEMPLATE_INLINE int ZCoord<T>::operator>=(const ZCoord& p) const {
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE double ZCoord<T>::distance(const ZCoord& p) const {
-    using namespace zarnex::detail;
-    return length(offset(widened(*this), widened(p)));
+    namespace detail = zarnex::detail;
+    return detail::length(detail::offset(detail::widened(*this), detail::widened(p)));
 }
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE double ZCoord<T>::squaredDistance(const ZCoord& p) const {
-    using namespace zarnex::detail;
-    const Pair d = offset(widened(*this), widened(p));
-    return dot(d, d);
+    namespace detail = zarnex::detail;
+    const detail::Pair d = detail::offset(detail::widened(*this), detail::widened(p));
+    return detail::dot(d, d);
 }
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE double ZCoord<T>::manhattanDistance(const ZCoord& p) const {
-    using namespace zarnex::detail;
-    return manhattanLength(offset(widened(*this), widened(p)));
+    namespace detail = zarnex::detail;
+    return detail::manhattanLength(detail::offset(detail::widened(*this), detail::widened(p)));
 }
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE ZCoord<T>& ZCoord<T>::translate(T dx, T dy) {
-    using namespace zarnex::detail;
-    return *this = ZCoord(sum(x, dx), sum(y, dy));
+    namespace detail = zarnex::detail;
+    return *this = ZCoord(detail::sum(x, dx), detail::sum(y, dy));
 }
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE ZCoord<T>& ZCoord<T>::scale(double sx, double sy) {
-    using namespace zarnex::detail;
-    return *this = truncated<ZCoord<T>>(scaled(widened(*this), sx, sy));
+    namespace detail = zarnex::detail;
+    return *this = detail::truncated<ZCoord<T>>(detail::scaled(detail::widened(*this), sx, sy));
 }
 
 template <class T>
 ZCoord<T>& ZCoord<T>::roundScale(double sx, double sy) {
-    using namespace zarnex::detail;
-    return *this = rounded<ZCoord<T>>(scaled(widened(*this), sx, sy));
+    namespace detail = zarnex::detail;
+    return *this = detail::rounded<ZCoord<T>>(detail::scaled(detail::widened(*this), sx, sy));
 }
 
 template <class T>
 ZCoord<T>& ZCoord<T>::rotate(double degrees, const ZCoord& centre) {
-    using namespace zarnex::detail;
-    return *this = truncated<ZCoord<T>>(rotated(widened(*this), degrees, widened(centre)));
+    namespace detail = zarnex::detail;
+    return *this = detail::truncated<ZCoord<T>>(
+               detail::rotated(detail::widened(*this), degrees, detail::widened(centre)));
 }
 
 template <class T>
 ZCoord<T>& ZCoord<T>::matrixRot(const double m[2][3], double z) {
-    using namespace zarnex::detail;
+    namespace detail = zarnex::detail;
     if (m == nullptr)
         return *this;
-    return *this = rounded<ZCoord<T>>(mapped(widened(*this), m, z));
+    return *this = detail::rounded<ZCoord<T>>(detail::mapped(detail::widened(*this), m, z));
 }
 
 template <class T>
 ZCoord<T>& ZCoord<T>::mirror(const ZCoord& a, const ZCoord& b) {
-    using namespace zarnex::detail;
-    return *this = truncated<ZCoord<T>>(mirrored(widened(*this), widened(a), widened(b)));
+    namespace detail = zarnex::detail;
+    return *this = detail::truncated<ZCoord<T>>(
+               detail::mirrored(detail::widened(*this), detail::widened(a), detail::widened(b)));
 }
 
 extern template class ZARNEX_API ZCoord<short>;

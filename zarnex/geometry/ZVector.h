@@ -98,20 +98,20 @@ ZARNEX_TEMPLATE_INLINE T ZVector<T>::yval() const {
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE ZVector<T> ZVector<T>::operator+(const ZVector& v) const {
-    using namespace zarnex::detail;
-    return ZVector(sum(x, v.x), sum(y, v.y));
+    namespace detail = zarnex::detail;
+    return ZVector(detail::sum(x, v.x), detail::sum(y, v.y));
 }
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE ZVector<T> ZVector<T>::operator-(const ZVector& v) const {
-    using namespace zarnex::detail;
-    return ZVector(difference(x, v.x), difference(y, v.y));
+    namespace detail = zarnex::detail;
+    return ZVector(detail::difference(x, v.x), detail::difference(y, v.y));
 }
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE ZVector<T> ZVector<T>::operator-() const {
-    using namespace zarnex::detail;
-    return ZVector(negated(x), negated(y));
+    namespace detail = zarnex::detail;
+    return ZVector(detail::negated(x), detail::negated(y));
 }
 
 template <class T>
@@ -121,14 +121,14 @@ ZARNEX_TEMPLATE_INLINE ZVector<T>& ZVector<T>::operator+=(const ZVector& v) {
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE ZVector<T> ZVector<T>::operator*(const double& s) const {
-    using namespace zarnex::detail;
-    return truncated<ZVector<T>>(scaled(widened(*this), s, s));
+    namespace detail = zarnex::detail;
+    return detail::truncated<ZVector<T>>(detail::scaled(detail::widened(*this), s, s));
 }
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE T ZVector<T>::operator*(const ZVector& v) const {
-    using namespace zarnex::detail;
-    return sum(product(x, v.x), product(y, v.y));
+    namespace detail = zarnex::detail;
+    return detail::sum(detail::product(x, v.x), detail::product(y, v.y));
 }
 
 template <class T>
@@ -158,8 +158,8 @@ ZARNEX_TEMPLATE_INLINE int ZVector<T>::operator>(const ZVector& v) const {
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE double ZVector<T>::squaredLength() const {
-    using namespace zarnex::detail;
-    return dot(widened(*this), widened(*this));
+    namespace detail = zarnex::detail;
+    return detail::dot(detail::widened(*this), detail::widened(*this));
 }
 
 template <class T>
@@ -169,26 +169,28 @@ ZARNEX_TEMPLATE_INLINE double ZVector<T>::cross(const ZVector& v) const {
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE ZVector<T> ZVector<T>::normalize() const {
-    using namespace zarnex::detail;
-    return truncated<ZVector<T>>(normalized(widened(*this)));
+    namespace detail = zarnex::detail;
+    return detail::truncated<ZVector<T>>(detail::normalized(detail::widened(*this)));
 }
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE ZVector<T> ZVector<T>::ortho(int s) const {
-    using namespace zarnex::detail;
-    return ZVector(product(negated(y), s), product(x, s));
+    namespace detail = zarnex::detail;
+    return ZVector(detail::product(detail::negated(y), s), detail::product(x, s));
 }
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE ZVector<T> ZVector<T>::projectOn(const ZVector& v) const {
-    using namespace zarnex::detail;
-    return truncated<ZVector<T>>(projected(widened(*this), widened(v)));
+    namespace detail = zarnex::detail;
+    return detail::truncated<ZVector<T>>(
+        detail::projected(detail::widened(*this), detail::widened(v)));
 }
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE ZVector<T> ZVector<T>::projectOnUnit(const ZVector& unit) const {
-    using namespace zarnex::detail;
-    return truncated<ZVector<T>>(projectedOnUnit(widened(*this), widened(unit)));
+    namespace detail = zarnex::detail;
+    return detail::truncated<ZVector<T>>(
+        detail::projectedOnUnit(detail::widened(*this), detail::widened(unit)));
 }
 
 template <class T>
@@ -203,14 +205,14 @@ ZARNEX_TEMPLATE_INLINE ZVector<T>& ZVector<T>::reverse() {
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE ZVector<T>& ZVector<T>::scale(double sx, double sy) {
-    using namespace zarnex::detail;
-    return *this = truncated<ZVector<T>>(scaled(widened(*this), sx, sy));
+    namespace detail = zarnex::detail;
+    return *this = detail::truncated<ZVector<T>>(detail::scaled(detail::widened(*this), sx, sy));
 }
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE int ZVector<T>::isSameSense(const ZVector& v) const {
-    using namespace zarnex::detail;
-    return sameSense(widened(*this), widened(v));
+    namespace detail = zarnex::detail;
+    return detail::sameSense(detail::widened(*this), detail::widened(v));
 }
 
 extern template class ZARNEX_API ZVector<short>;

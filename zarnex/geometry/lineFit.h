@@ -11,8 +11,9 @@
 /// Fits a line to `pts` by the least squares of the distances from it, and gives its normal
 /// (a, b), of any length, and `c`; 0 then. -1 for an empty list, with all three left alone.
 ///
-/// Both components of the normal are 0 for points that coincide, and for points on one
-/// vertical line: its normal is not found. Linear in the number of points.
+/// Linear in the number of points. Points that coincide have a normal of 0 but for rounding.
+///
+/// Kept as is: so have points on one vertical line, although every other line has a normal.
 ///
 /// Kept as is: c is a * mx + b + my with the mean point (mx, my), although the equation
 /// a * x + b * y + c = 0 of the line has -(a * mx + b * my).

@@ -56,7 +56,8 @@ ZARNEX_API int intersect(IPoint* out, const IPoint& a, const IPoint& b, const IP
 ///
 /// Kept as is: the point where the lines meet, as intersect() computes it, is compared
 /// exactly with the ends of both segments. Where the segments just touch, its rounding
-/// decides, except across a horizontal or vertical segment.
+/// decides. Only the constant coordinate of a horizontal or vertical segment is not
+/// compared with that segment.
 ZARNEX_API int isContainedIntersect(const DPoint& a, const DPoint& b, const DPoint& c,
                                     const DPoint& d);
 
@@ -112,8 +113,9 @@ constexpr bool isBetweenOrFlat(double value, double a, double b) {
 
 ZARNEX_INLINE int intersect(DPoint& out, const DPoint& p, const DVector& u, const DPoint& q,
                             const DVector& v) {
-    using namespace zarnex::detail;
-    return intersectInDoubles(out, widened(p), widened(u), widened(q), widened(v));
+    namespace detail = zarnex::detail;
+    return detail::intersectInDoubles(out, detail::widened(p), detail::widened(u),
+                                      detail::widened(q), detail::widened(v));
 }
 
 ZARNEX_INLINE int intersect(DPoint& out, const DPoint& a, const DPoint& b, const DPoint& c,
@@ -128,15 +130,17 @@ ZARNEX_INLINE int intersect(DPoint* out, const DPoint& a, const DPoint& b, const
 
 ZARNEX_INLINE int intersect(IPoint& out, const IPoint& p, const IVector& u, const IPoint& q,
                             const IVector& v) {
-    using namespace zarnex::detail;
-    return intersectInIntegers(out, widened(p), widened(u), widened(q), widened(v));
+    namespace detail = zarnex::detail;
+    return detail::intersectInIntegers(out, detail::widened(p), detail::widened(u),
+                                       detail::widened(q), detail::widened(v));
 }
 
 ZARNEX_INLINE int intersect(IPoint& out, const IPoint& a, const IPoint& b, const IPoint& c,
                             const IPoint& d) {
-    using namespace zarnex::detail;
-    return intersectInIntegers(out, widened(a), offset(widened(a), widened(b)), widened(c),
-                               offset(widened(c), widened(d)));
+    namespace detail = zarnex::detail;
+    return detail::intersectInIntegers(
+        out, detail::widened(a), detail::offset(detail::widened(a), detail::widened(b)),
+        detail::widened(c), detail::offset(detail::widened(c), detail::widened(d)));
 }
 
 ZARNEX_INLINE int intersect(IPoint* out, const IPoint& a, const IPoint& b, const IPoint& c,
@@ -146,10 +150,10 @@ ZARNEX_INLINE int intersect(IPoint* out, const IPoint& a, const IPoint& b, const
 
 ZARNEX_INLINE int isContainedIntersect(const DPoint& a, const DPoint& b, const DPoint& c,
                                        const DPoint& d) {
-    using namespace zarnex::detail;
+    namespace detail = zarnex::detail;
     DPoint p;
     if (intersect(p, a, b, c, d) != 0)
         return 0;
-    return isBetweenOrFlat(p.x, a.x, b.x) && isBetweenOrFlat(p.y, a.y, b.y) &&
-           isBetweenOrFlat(p.x, c.x, d.x) && isBetweenOrFlat(p.y, c.y, d.y);
+    return detail::isBetweenOrFlat(p.x, a.x, b.x) && detail::isBetweenOrFlat(p.y, a.y, b.y) &&
+           detail::isBetweenOrFlat(p.x, c.x, d.x) && detail::isBetweenOrFlat(p.y, c.y, d.y);
 }

@@ -32,7 +32,8 @@ ZARNEX_API int collinear(const DPoint& a, const DPoint& b, const DPoint& c, cons
 ZARNEX_API int collinear(DPoint* a, DPoint* b, DPoint* c, DPoint* d);
 
 /// 1 if the sine of the angle between the segments ab and cd is at most `tol` in size, or if
-/// one of them is at most 1e-9 long; else 0, as for a null pointer and a NaN.
+/// one of them is at most 1e-9 long; else 0. 0 for a null pointer, and with a NaN unless a
+/// segment is that short.
 ZARNEX_API int parallel(DPoint* a, DPoint* b, DPoint* c, DPoint* d, double tol);
 
 /// Where `p` lies: 0 off the line ab, 1 on it beyond `a`, 2 on the segment, 3 beyond `b`.
@@ -48,9 +49,9 @@ ZARNEX_API int parallel(DPoint* a, DPoint* b, DPoint* c, DPoint* d, double tol);
 /// the line, about the horizontal or vertical through `b`, passes as well.
 ///
 /// Kept as is: the tolerance widens the segment at one end only. With `a` more than `tol` to
-/// the left of `b`, a point to the left of `a` gives 1 at once, and one to the right of `b`
-/// gives 3 only beyond `tol`; with `a` to the right it is 3 at once and 1 beyond `tol`. The
-/// same holds for below and above.
+/// the left of `b`, a point to the left of `a` that does not count as `a` gives 1, and one to
+/// the right of `b` gives 3 only beyond `tol`; with `a` to the right it is 3 at once and 1
+/// beyond `tol`. The same holds for below and above.
 ZARNEX_API int pointOnLineSegment(const DPoint& p, const DPoint& a, const DPoint& b, double tol);
 
 /// The same for integer points, without tolerance.
@@ -62,16 +63,17 @@ ZARNEX_API int pointOnLineSegment(const DPoint& p, const DPoint& a, const DPoint
 /// 0. Mirror images pass here as well.
 ZARNEX_API int pointOnLineSegment(const IPoint& p, const IPoint& a, const IPoint& b);
 
-/// 1 if `p` lies on the segment ab, else 0, as with a NaN: if its distance from `a` or `b`
-/// is at most `tol`, or if the square of the sum of both distances is at most tol^2 away
-/// from the squared length of ab.
+/// 1 if `p` lies on the segment ab, else 0: if its distance from `a` or `b` is at most
+/// `tol`, or if the square of the sum of both distances is at most tol^2 away from the
+/// squared length of ab. A NaN in one end leaves the other end to be found.
 ///
 /// Kept as is: the second test is an ellipse about `a` and `b` that reaches tol / 2 beside
 /// the middle of the segment, although the first is a circle of radius `tol`.
 ZARNEX_API int quickCheckPointOnLine(const DPoint& p, const DPoint& a, const DPoint& b, double tol);
 
 /// The same with a second chance: 1 also if that sum squared, over the squared length of ab,
-/// is 1 within `relTol`, or if the distance of `p` from the line ab is below `tol`.
+/// is 1 within `relTol`, or if the distance of `p` from the line ab is below `tol`
+/// in size.
 ///
 /// There is none if `relTol` is at most 1e-9 in size. If the squared length of ab is, the
 /// chance is that each coordinate of `p` differs by at most `tol` from that of `a`, or of `b`.

@@ -55,9 +55,10 @@ ZARNEX_INLINE double crossProduct(const DPoint* a, const DPoint* b, const DPoint
 
 ZARNEX_INLINE double crossProduct(const IPoint* a, const IPoint* b, const IPoint* c,
                                   const IPoint* d) {
-    using namespace zarnex::detail;
+    namespace detail = zarnex::detail;
     if (a == nullptr || b == nullptr || c == nullptr || d == nullptr)
         return 0.0;
-    return difference(product(difference(a->x, b->x), difference(c->y, d->y)),
-                      product(difference(c->x, d->x), difference(a->y, b->y)));
+    return detail::difference(
+        detail::product(detail::difference(a->x, b->x), detail::difference(c->y, d->y)),
+        detail::product(detail::difference(c->x, d->x), detail::difference(a->y, b->y)));
 }

@@ -27,8 +27,8 @@ enum PointFoundResult : int {
 /// with `b` at 5.3 from the centre and a radius of 5 the point is `b`.
 ///
 /// Kept as is: a segment with both ends outside the circle has no point, even where it
-/// crosses twice, so that PointFoundTwo is a matter of rounding, at coordinates of 1e15 and
-/// more.
+/// crosses twice, so that PointFoundTwo is a matter of rounding. With an end some 3e7 radii
+/// away rounding can give it, or no point where there is one.
 ZARNEX_API PointFoundResult pointOnLineSegmentWithDistanceAway(DPoint& first, DPoint& second,
                                                                double r, const DPoint& centre,
                                                                const DPoint& a, const DPoint& b);

@@ -24,7 +24,8 @@ enum OverlapLineReturnCode : int {
 ///
 /// `c` and `d` may come in either order. The feet of their perpendiculars to the line ab
 /// stand for them, so that cd need not lie on that line. `start` and `end` may be arguments
-/// too. With a NaN there is no overlap.
+/// too. A NaN in `a`, `b` or `c` gives no overlap; one in `d` alone may give
+/// OverlapLineFound with NaNs in `start`.
 ///
 ///     DPoint from, to;
 ///     findOverlapLine(from, to, DPoint(0, 0), DPoint(10, 0), DPoint(12, 0), DPoint(4, 0));

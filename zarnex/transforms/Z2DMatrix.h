@@ -359,8 +359,9 @@ Z2DMatrix<T>& Z2DMatrix<T>::operator-=(const ZMatrix<T>& b) {
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE DPoint Z2DMatrix<T>::operator*(const DPoint& p) const {
-    using namespace zarnex::detail;
-    return isWhole() ? truncated<DPoint>(mapped(elements(), widened(p))) : p;
+    namespace detail = zarnex::detail;
+    return isWhole() ? detail::truncated<DPoint>(detail::mapped(elements(), detail::widened(p)))
+                     : p;
 }
 
 extern template class ZARNEX_API Z2DMatrix<double>;
