@@ -37,7 +37,7 @@ void Messages::cannotRead(std::string_view place, std::string_view text, std::st
 
 void Messages::progress(long long done, std::string_view what) {
     constexpr long long betweenLooks = 1024;
-    if (done < look_)
+    if (done < look_ && done >= look_ - betweenLooks)
         return;
     look_ = done + betweenLooks;
     if (Clock::now() < next_)
@@ -46,7 +46,8 @@ void Messages::progress(long long done, std::string_view what) {
     static const bool wanted = platform::isTerminal(standardError) &&
                                !(writesAllTheWhile_ && platform::isTerminal(standardOutput));
     if (wanted) {
-        write('\r' + program_ + ": " + std::to_string(done) + ' ' + std::string(what));
+        clearProgress();
+        write(program_ + ": " + std::to_string(done) + ' ' + std::string(what));
         shown_ = true;
     }
 }

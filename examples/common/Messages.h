@@ -26,6 +26,7 @@ public:
     /// Shows how far a long run has come, "30000 lines" for `done` 30000 and `what`
     /// "lines", on a line of its own that the next message or clearProgress() removes.
     /// Only on a terminal and from the second second on. Cheap enough for every line.
+    /// `done` may begin anew.
     void progress(long long done, std::string_view what);
     void clearProgress();
 

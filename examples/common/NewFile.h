@@ -24,12 +24,13 @@ public:
     /// Adds bytes, which wait in a buffer.
     void write(std::string_view bytes);
 
+    /// Writes what waits.
+    void flush();
+
     /// Puts the file in its place. The last call.
     void commit();
 
 private:
-    void flush();
-
     platform::Replacement made_;
     std::string waiting_;
     bool isOpen_ = true;

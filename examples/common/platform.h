@@ -34,6 +34,9 @@ struct Replacement {
 /// file, a device say, cannot be replaced and is opened for writing itself.
 Replacement createReplacement(const std::string& path);
 
+/// Whether both paths name one file that there is.
+bool isSameFile(const std::string& a, const std::string& b);
+
 /// Closes the file and gives it its name, in place of what had it.
 void commit(const Replacement& made);
 

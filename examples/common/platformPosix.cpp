@@ -32,7 +32,7 @@ void removeAndEnd(int signal) {
 void removeWhenEnded(const std::string& name) {
     const bool fits = name.size() < sizeof uncommitted;
     uncommitted[fits ? name.copy(uncommitted, sizeof uncommitted - 1) : 0] = '\0';
-    for (const int signal : {SIGHUP, SIGINT, SIGTERM})
+    for (const int signal : {SIGHUP, SIGINT, SIGQUIT, SIGTERM})
         if (const auto before = std::signal(signal, removeAndEnd); before == SIG_IGN)
             std::signal(signal, SIG_IGN);
 }
@@ -85,6 +85,10 @@ Replacement createReplacement(const std::string& path) {
     struct stat found {};
     mode_t mode = ordinaryMode();
     made.target = path;
+    std::signal(SIGXFSZ, SIG_IGN); // a file that grows too large is a failure to write
+    if (lstat(path.c_str(), &found) == 0 && S_ISLNK(found.st_mode) &&
+        access(path.c_str(), F_OK) != 0) // a link to nothing shall stay one, too
+        fail();
     if (stat(path.c_str(), &found) == 0) {
         if (!S_ISREG(found.st_mode)) {
             made.file = open(path.c_str(), O_WRONLY | O_CLOEXEC);
@@ -107,6 +111,13 @@ Replacement createReplacement(const std::string& path) {
     removeWhenEnded(made.name);
     fchmod(made.file, mode);
     return made;
+}
+
+bool isSameFile(const std::string& a, const std::string& b) {
+    struct stat one {};
+    struct stat other {};
+    return stat(a.c_str(), &one) == 0 && stat(b.c_str(), &other) == 0 &&
+           one.st_dev == other.st_dev && one.st_ino == other.st_ino;
 }
 
 void commit(const Replacement& made) {

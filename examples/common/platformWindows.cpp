@@ -125,6 +125,25 @@ Replacement createReplacement(const std::string& path) {
     return made;
 }
 
+bool isSameFile(const std::string& a, const std::string& b) {
+    BY_HANDLE_FILE_INFORMATION found[2] = {};
+    const std::string* const paths[2] = {&a, &b};
+    for (int i = 0; i < 2; ++i) {
+        const HANDLE file = CreateFileW(widen(*paths[i]).c_str(), 0,
+                                        FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                        nullptr, OPEN_EXISTING, 0, nullptr);
+        if (file == INVALID_HANDLE_VALUE)
+            return false;
+        const bool known = GetFileInformationByHandle(file, &found[i]) != 0;
+        CloseHandle(file);
+        if (!known)
+            return false;
+    }
+    return found[0].dwVolumeSerialNumber == found[1].dwVolumeSerialNumber &&
+           found[0].nFileIndexHigh == found[1].nFileIndexHigh &&
+           found[0].nFileIndexLow == found[1].nFileIndexLow;
+}
+
 void commit(const Replacement& made) {
     if (_close(made.file) != 0)
         fail();

@@ -90,7 +90,7 @@ bool toWide(std::string_view text, std::wstring& wide) {
 bool isText(std::string_view text) {
     while (!text.empty()) {
         const char32_t c = nextCharacter(text);
-        if (c == illFormed || (isControl(c) && c != '\t' && c != '\r' && c != '\f'))
+        if (c == illFormed || (isControl(c) && c != '\t' && c != '\f'))
             return false;
     }
     return true;

@@ -24,8 +24,7 @@ std::string toUtf8(std::wstring_view text);
 /// become U+FFFD: so the library sees the same text everywhere.
 bool toWide(std::string_view text, std::wstring& wide);
 
-/// Whether `text` is UTF-8 without control characters other than tabs, carriage returns
-/// and form feeds.
+/// Whether `text` is UTF-8 without control characters other than tabs and form feeds.
 bool isText(std::string_view text);
 
 /// Appends `text` as it may be shown on a terminal and in a table: ill-formed bytes

@@ -26,7 +26,11 @@ struct Outline {
     ZXArray<DPoint> corners;
     std::vector<int> lines; ///< of the file, one a corner
     int line = 0;           ///< that begins the outline
-    bool isHole = false;    ///< whether fabric, not thread, is inside
+    int depth = 0;          ///< how many others are around it; an odd one is a hole
+
+    bool isHole() const {
+        return depth % 2 != 0;
+    }
 };
 
 /// How the whole motif is repeated.
@@ -36,7 +40,6 @@ struct Repeat {
     Kind kind = Kind::turned;
     int count = 2;        ///< copies, the first one included
     double degrees = 0.0; ///< from one copy to the next, counter-clockwise
-    int line = 0;
 };
 
 struct Motif {
@@ -50,10 +53,12 @@ struct Motif {
     std::vector<Outline> outlines;
     std::vector<Repeat> repeats;
 
-    int rowSpacingLine = 0; ///< where it was given; 0 for the default
+    int stitchLine = 0; ///< where lengths were given; 0 for the defaults
+    int spacingLine = 0;
 };
 
-/// The shortest stitch that a machine can sew without breaking the thread.
+/// The shortest stitch length that may be asked for: shorter ones break the thread. Rows
+/// may stand nearer.
 inline constexpr double shortestStitch = 3.0;
 
 } // namespace stitchplan

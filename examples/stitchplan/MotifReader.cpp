@@ -11,6 +11,7 @@
 #include <zarnex/units/unitIds.h>
 
 #include <array>
+#include <cstddef>
 #include <set>
 #include <string>
 #include <utility>
@@ -20,6 +21,7 @@ namespace stitchplan {
 namespace {
 
 constexpr int mostCopies = 1000;
+constexpr std::size_t mostCorners = 20000;
 
 class Reader {
 public:
@@ -51,11 +53,13 @@ private:
 
     DPoint point(std::string_view text) const;
     void mustNotBeOpen() const;
+    void countCorners(const Outline& last);
 
     Motif motif_;
     std::set<std::string_view> given_;
     int line_ = 0;
-    int openSince_ = 0; ///< the line of the outline that is open; 0 for none
+    std::size_t corners_ = 0; ///< of the outlines but the last
+    int openSince_ = 0;       ///< the line of the outline that is open; 0 for none
     int bareUnit_ = zarnex::unitMillimeter;
 };
 
@@ -85,7 +89,9 @@ void Reader::units(std::string_view rest) {
 }
 
 void Reader::hoop(std::string_view rest) {
-    const std::vector<std::string_view> sides = split(rest, 'x');
+    std::vector<std::string_view> sides = split(rest, 'x');
+    if (sides.size() != 2)
+        sides = split(rest, 'X');
     if (sides.size() != 2)
         throw ValueError("a hoop is two lengths with an x between");
     motif_.hoopWidth = length(sides[0], bareUnit_);
@@ -96,13 +102,14 @@ void Reader::hoop(std::string_view rest) {
 
 void Reader::stitch(std::string_view rest) {
     motif_.stitchLength = lengthOrDensity(rest, bareUnit_);
+    motif_.stitchLine = line_;
     if (!(motif_.stitchLength >= shortestStitch))
         throw ValueError("the stitch length must be 0.3 mm or more");
 }
 
 void Reader::spacing(std::string_view rest) {
     motif_.rowSpacing = lengthOrDensity(rest, bareUnit_);
-    motif_.rowSpacingLine = line_;
+    motif_.spacingLine = line_;
     if (!(motif_.rowSpacing > 0.0))
         throw ValueError("the spacing of rows must be above zero");
 }
@@ -122,6 +129,12 @@ void Reader::mustNotBeOpen() const {
         throw MotifError(openSince_, "open outline, no \"close\" follows");
 }
 
+// Refuses too many before they fill the memory.
+void Reader::countCorners(const Outline& last) {
+    if (corners_ + last.lines.size() > mostCorners)
+        throw ValueError("this makes more than 20000 corners");
+}
+
 void Reader::outline(std::string_view rest) {
     mustNotBeOpen();
     openSince_ = line_;
@@ -136,6 +149,7 @@ void Reader::points(std::string_view rest) {
         throw ValueError("a point must follow an \"outline\"");
     for (const std::string_view text : split(rest, ';'))
         addCorner(motif_.outlines.back(), point(text), line_);
+    countCorners(motif_.outlines.back());
 }
 
 void Reader::close(std::string_view rest) {
@@ -144,6 +158,7 @@ void Reader::close(std::string_view rest) {
     if (openSince_ == 0)
         throw ValueError("no outline is open");
     openSince_ = 0;
+    corners_ += motif_.outlines.back().lines.size();
 }
 
 void Reader::circle(std::string_view rest) {
@@ -156,6 +171,8 @@ void Reader::circle(std::string_view rest) {
     if (computeCentre(&centre, first, point(parts[1]), point(parts[2])) != 0)
         throw ValueError("no circle: the points coincide or lie on a line");
     motif_.outlines.push_back(circleOutline(centre, (first - centre).length(), line_));
+    countCorners(motif_.outlines.back());
+    corners_ += motif_.outlines.back().lines.size();
 }
 
 void Reader::repeat(std::string_view rest) {
@@ -165,13 +182,12 @@ void Reader::repeat(std::string_view rest) {
     } else if (rest == "flipped") {
         repeat.kind = Repeat::Kind::flipped;
     } else {
-        constexpr std::string_view by = " by ";
-        const std::size_t at = rest.find(by);
-        if (at == std::string_view::npos)
+        const std::string_view times = takeWord(rest);
+        if (takeWord(rest) != "by")
             throw ValueError(
                 "a repeat is \"mirrored\", \"flipped\" or such as \"6 by 60 degrees\"");
-        repeat.count = count(rest.substr(0, at), mostCopies);
-        repeat.degrees = angle(rest.substr(at + by.size()));
+        repeat.count = count(times, mostCopies);
+        repeat.degrees = angle(rest);
     }
     motif_.repeats.push_back(repeat);
     double copies = 1.0;
@@ -189,8 +205,8 @@ DPoint Reader::point(std::string_view text) const {
 }
 
 void Reader::readStatement(std::string_view text) {
-    const std::string_view keyword = text.substr(0, text.find_first_of(" \t"));
-    const std::string_view rest = trimmed(text.substr(keyword.size()));
+    std::string_view rest = text;
+    const std::string_view keyword = takeWord(rest);
     for (const Statement& statement : statements) {
         if (statement.keyword != keyword)
             continue;
@@ -230,7 +246,11 @@ std::vector<std::string_view> linesOf(std::string_view text) {
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
     if (text.substr(0, byteOrderMark.size()) == byteOrderMark)
         text.remove_prefix(byteOrderMark.size());
-    return split(text, '\n');
+    std::vector<std::string_view> lines = split(text, '\n');
+    for (std::string_view& line : lines)
+        if (!line.empty() && line.back() == '\r')
+            line.remove_suffix(1);
+    return lines;
 }
 
 Motif readMotif(const std::vector<std::string_view>& lines) {

@@ -11,7 +11,7 @@ namespace stitchplan {
 /// Larger files are refused: nobody writes such a motif.
 inline constexpr std::size_t mostMotifBytes = std::size_t(4) << 20;
 
-/// The lines of a motif, without a byte order mark. They refer into `text`.
+/// The lines of a motif, without line ends and a byte order mark. They refer into `text`.
 std::vector<std::string_view> linesOf(std::string_view text);
 
 /// Reads the statements of a motif, one a line; the program's help lists them.

@@ -9,6 +9,8 @@ void StitchPath::sewTo(const DPoint& needle) {
         begins_.add(needles_.length());
     else if (needle == lastNeedle())
         return;
+    if (needles() >= mostNeedles)
+        throw TooManyNeedles();
     needles_.add(needle);
     isCut_ = false;
 }
@@ -28,7 +30,9 @@ void StitchPath::cutThread() {
 }
 
 void StitchPath::append(const StitchPath& other, const Z2DTrans& by) {
-    needles_.reserve(static_cast<long long>(needles()) + other.needles());
+    if (other.needles() > mostNeedles - needles())
+        throw TooManyNeedles();
+    needles_.reserve(needles() + other.needles());
     for (int thread = 0; thread < other.threads(); ++thread) {
         cutThread();
         for (int i = other.threadBegin(thread); i < other.threadBegin(thread + 1); ++i)
@@ -46,6 +50,10 @@ const DPoint& StitchPath::lastNeedle() const {
 
 int StitchPath::needles() const {
     return needles_.length();
+}
+
+int StitchPath::stitches() const {
+    return needles() - threads();
 }
 
 const DPoint& StitchPath::needle(int i) const {

@@ -4,15 +4,25 @@
 #include <zarnex/geometry/DPoint.h>
 #include <zarnex/transforms/Z2DTrans.h>
 
+#include <stdexcept>
+
 namespace stitchplan {
+
+/// A path that would grow beyond StitchPath::mostNeedles.
+class TooManyNeedles : public std::runtime_error {
+public:
+    TooManyNeedles() : std::runtime_error("this makes more than 10000000 stitches") {}
+};
 
 /// Where the needle goes in, in the order of sewing and in points.
 ///
 /// A path is a row of threads, each from one cut to the next.
 class StitchPath {
 public:
+    static constexpr int mostNeedles = 10000000;
+
     /// Sews on to `needle`; the first time after a cut, begins a thread there. A stitch
-    /// of no length is left out.
+    /// of no length is left out. Throws TooManyNeedles.
     void sewTo(const DPoint& needle);
 
     /// Sews in a straight line, in stitches of equal length and no longer than `longest`.
@@ -27,6 +37,7 @@ public:
     const DPoint& lastNeedle() const; ///< not for an empty path
 
     int needles() const;
+    int stitches() const; ///< the ways from needle to needle
     const DPoint& needle(int i) const;
 
     int threads() const;

@@ -23,18 +23,25 @@ A motif is a text file, a statement a line; what follows a "#" is a comment.
   stitch 2.5 mm           the length of a stitch, or "10 spi"; 2.5 mm if not given
   spacing 0.4 mm          from row to row of a fill, or "60 spi"; 0.4 mm if not given
   angle 45 degrees        of the rows, counter-clockwise; 0 if not given
-  scale 120 %             of everything but stitches and spacing; 100 % if not given
+  scale 120 %             of outlines and circles; 100 % if not given
   outline                 begins an outline; points may follow on the same line
   point 1 cm, -0.5 in     a corner; several with semicolons between
   close                   ends the outline, which closes with its first point
   circle 9, 0; 0, 9; -9, 0      an outline through three points
-  repeat mirrored         adds the mirror image, left to right, of all there is
+  repeat mirrored         adds the mirror image, left to right, of the whole motif
   repeat flipped          the same upside down
   repeat 6 by 60 degrees  makes it 6 in all, each turned by 60 degrees from the last
 
-An outline inside another is a hole in it, one in the hole is filled again. Lengths are
-typed as for zarnex-units. The status is 0, or 2 with a line that says what is wrong; then
-neither a summary nor a picture is written.
+An outline inside another is a hole in it, one in the hole is filled again; they must not
+touch. Repeats take what the repeats above them made. Copies may overlap and are then sewn
+one over the other. A stitch may be up to 0.3 mm longer than asked for where the rest would
+be shorter than that, and rows of less than 0.3 mm are left out.
+
+Lengths are typed as for zarnex-units, 10 m at most. There may be 20000 corners, 1000
+copies, 1000000 rows and 10000000 stitches in a file of 4 MiB.
+
+The status is 0, or 2 with a line that says what is wrong; then neither a summary nor a
+picture is written.
 
   zarnex-stitchplan leaf.motif
   zarnex-stitchplan --svg leaf.svg leaf.motif
@@ -59,7 +66,7 @@ Arguments parseArguments(const std::vector<std::string>& given) {
             arguments.task = text == "--version" ? Task::version : Task::help;
             return arguments;
         } else if (text == "--svg") {
-            if (i + 1 == given.size() || given[i + 1].empty())
+            if (i + 1 == given.size() || given[i + 1].empty() || given[i + 1][0] == '-')
                 throw UsageError("--svg needs the name of a file");
             if (!arguments.picture.empty())
                 throw UsageError("more than one --svg");

@@ -18,6 +18,7 @@
 
 #include <exception>
 #include <new>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <system_error>
@@ -58,7 +59,7 @@ Plan makePlan(const Arguments& arguments, Messages& messages) {
     const std::vector<std::string_view> lines = linesOf(text);
     try {
         return planStitches(readMotif(lines),
-                            [&](int stitches) { messages.progress(stitches, "stitches"); });
+                            [&](int needles) { messages.progress(needles, "needle points"); });
     } catch (const MotifError& error) {
         std::string message = nameOf(arguments) + ": " + error.what();
         if (error.line > 0) {
@@ -70,32 +71,52 @@ Plan makePlan(const Arguments& arguments, Messages& messages) {
     }
 }
 
-void writePicture(const Plan& plan, const std::string& path, Messages& messages) {
+/// Calls `use` and says which picture cannot be written if it fails.
+template <class Use>
+void withPicture(const std::string& path, Use use) {
     try {
-        NewFile file(path);
-        drawPicture(
-            plan, [&file](std::string_view piece) { file.write(piece); },
-            [&](int stitches) { messages.progress(stitches, "stitches drawn"); });
-        file.commit();
+        use();
     } catch (const std::system_error& error) {
         throw std::runtime_error("cannot write " + shown(path, 200) + ": " +
                                  error.code().message());
     }
 }
 
+// The picture takes its place last, so that nothing is replaced when the output fails.
+void plan(const Arguments& arguments, Output& output, Messages& messages) {
+    const Plan plan = makePlan(arguments, messages);
+    std::string summary = summaryOf(plan);
+    std::optional<NewFile> picture;
+    const std::string& path = arguments.picture;
+    if (!path.empty()) {
+        if (platform::isSameFile(path, arguments.motif))
+            throw std::runtime_error("the picture would replace the motif " + shown(path, 200));
+        withPicture(path, [&] {
+            picture.emplace(path);
+            drawPicture(
+                plan, [&](std::string_view piece) { picture->write(piece); },
+                [&](int needles) { messages.progress(needles, "needle points drawn"); });
+            picture->flush();
+        });
+        summary += "picture     " + shown(path, 200) + '\n';
+    }
+    messages.clearProgress();
+    output.add(summary);
+    output.flush();
+    if (picture)
+        withPicture(path, [&] { picture->commit(); });
+}
+
 void run(const Arguments& arguments, Output& output, Messages& messages) {
-    if (arguments.task == Arguments::Task::help) {
+    switch (arguments.task) {
+    case Arguments::Task::help:
         output.add(helpText);
-    } else if (arguments.task == Arguments::Task::version) {
+        break;
+    case Arguments::Task::version:
         output.add(PROGRAM_NAME " " PROGRAM_VERSION "\n");
-    } else {
-        const Plan plan = makePlan(arguments, messages);
-        if (!arguments.picture.empty())
-            writePicture(plan, arguments.picture, messages);
-        messages.clearProgress();
-        output.add(summaryOf(plan));
-        if (!arguments.picture.empty())
-            output.add("picture     " + shown(arguments.picture, 200) + '\n');
+        break;
+    default:
+        plan(arguments, output, messages);
     }
     output.flush();
 }

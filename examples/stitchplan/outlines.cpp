@@ -9,7 +9,7 @@
 #include <cmath>
 #include <cstddef>
 #include <list>
-#include <numeric>
+#include <utility>
 
 namespace stitchplan {
 
@@ -18,11 +18,12 @@ namespace {
 /// What is nearer than 1 micrometre touches.
 constexpr double touching = 0.01;
 
-constexpr std::size_t mostCorners = 20000;
-
 struct Edge {
     DPoint from;
     DPoint to;
+    std::size_t outline;
+    int corner; ///< at `from`
+    int next;   ///< corner, at `to`
 
     double left() const {
         return (std::min)(from.x, to.x);
@@ -36,11 +37,15 @@ struct Edge {
     }
 };
 
-std::vector<Edge> edgesOf(const Outline& outline) {
-    const int count = outline.corners.length();
+std::vector<Edge> edgesOf(const std::vector<Outline>& outlines) {
     std::vector<Edge> edges;
-    for (int i = 0; i < count; ++i)
-        edges.push_back({outline.corners[i], outline.corners[(i + 1) % count]});
+    for (std::size_t i = 0; i < outlines.size(); ++i) {
+        const ZXArray<DPoint>& corners = outlines[i].corners;
+        for (int k = 0; k < corners.length(); ++k) {
+            const int next = k + 1 < corners.length() ? k + 1 : 0;
+            edges.push_back({corners[k], corners[next], i, k, next});
+        }
+    }
     return edges;
 }
 
@@ -58,34 +63,50 @@ bool foldsBack(const Edge& a, const Edge& b) {
     return isOn(a.from, b) || isOn(b.to, a);
 }
 
-// The first corner of an edge that touches another one; -1 if none does. Edges are taken
-// from left to right and compared with those that reach as far.
-int touchingCorner(const Outline& outline) {
-    const std::vector<Edge> edges = edgesOf(outline);
-    const std::size_t count = edges.size();
-    std::vector<std::size_t> byLeft(count);
-    std::iota(byLeft.begin(), byLeft.end(), std::size_t(0));
-    std::sort(byLeft.begin(), byLeft.end(),
-              [&edges](std::size_t a, std::size_t b) { return edges[a].left() < edges[b].left(); });
-    std::vector<std::size_t> reaching;
-    for (const std::size_t i : byLeft) {
-        const double left = edges[i].left() - touching;
-        const auto isPassed = [&](std::size_t j) { return edges[j].right() < left; };
+bool touchWrongly(const Edge& a, const Edge& b) {
+    if (a.isBeside(b))
+        return false;
+    if (a.outline == b.outline && a.next == b.corner)
+        return foldsBack(a, b);
+    if (a.outline == b.outline && b.next == a.corner)
+        return foldsBack(b, a);
+    return touch(a, b);
+}
+
+// Throws for the first edge found that touches another one. Edges are taken from left to
+// right and compared with those that reach as far.
+void refuseTouching(const std::vector<Outline>& outlines) {
+    std::vector<Edge> edges = edgesOf(outlines);
+    std::sort(edges.begin(), edges.end(),
+              [](const Edge& a, const Edge& b) { return a.left() < b.left(); });
+    std::vector<const Edge*> reaching;
+    for (const Edge& edge : edges) {
+        const auto isPassed = [&edge](const Edge* other) {
+            return other->right() < edge.left() - touching;
+        };
         reaching.erase(std::remove_if(reaching.begin(), reaching.end(), isPassed), reaching.end());
-        for (const std::size_t j : reaching) {
-            if (edges[i].isBeside(edges[j]))
+        for (const Edge* other : reaching) {
+            if (!touchWrongly(edge, *other))
                 continue;
-            const bool follows = j == (i + 1) % count;
-            const bool precedes = i == (j + 1) % count;
-            const bool wrong = follows    ? foldsBack(edges[i], edges[j])
-                               : precedes ? foldsBack(edges[j], edges[i])
-                                          : touch(edges[i], edges[j]);
-            if (wrong)
-                return static_cast<int>((std::max)(i, j));
+            const Edge& later =
+                std::pair(edge.outline, edge.corner) > std::pair(other->outline, other->corner)
+                    ? edge
+                    : *other;
+            throw MotifError(outlines[later.outline].lines[static_cast<std::size_t>(later.corner)],
+                             edge.outline == other->outline
+                                 ? "the outline touches itself near this point"
+                                 : "the outline touches another near this point");
         }
-        reaching.push_back(i);
+        reaching.push_back(&edge);
     }
-    return -1;
+}
+
+double lengthOf(const Outline& outline) {
+    double sum = 0.0;
+    const int count = outline.corners.length();
+    for (int i = 0; i < count; ++i)
+        sum += outline.corners[i].distance(outline.corners[i + 1 < count ? i + 1 : 0]);
+    return sum;
 }
 
 bool runsCounterClockwise(const Outline& outline) {
@@ -153,7 +174,6 @@ void transform(std::vector<Outline>& outlines, const Z2DTrans& by) {
 }
 
 void settle(std::vector<Outline>& outlines) {
-    std::size_t corners = 0;
     for (Outline& outline : outlines) {
         const int last = outline.corners.length() - 1;
         if (last > 0 && isEqual(outline.corners[0], outline.corners[last], touching)) {
@@ -162,27 +182,30 @@ void settle(std::vector<Outline>& outlines) {
         }
         if (outline.corners.length() < 3)
             throw MotifError(outline.line, "an outline of fewer than three corners");
-        corners += outline.lines.size();
-        if (corners > mostCorners)
-            throw MotifError(outline.line, "more than 20000 corners");
-        if (const int corner = touchingCorner(outline); corner >= 0)
-            throw MotifError(outline.lines[static_cast<std::size_t>(corner)],
-                             "the outline touches itself near this point");
+        if (lengthOf(outline) < 4.0 * shortestStitch)
+            throw MotifError(outline.line, "an outline of less than 1.2 mm all round");
     }
+    refuseTouching(outlines);
     for (Outline& outline : outlines) {
         for (const Outline& other : outlines)
             if (&other != &outline && isInside(outline.corners[0], other))
-                outline.isHole = !outline.isHole;
-        if (runsCounterClockwise(outline) == outline.isHole)
+                ++outline.depth;
+        if (runsCounterClockwise(outline) == outline.isHole())
             reverse(outline);
     }
 }
 
-bool isInside(const DPoint& p, const std::vector<Outline>& outlines) {
-    bool inside = false;
-    for (const Outline& outline : outlines)
-        inside = inside != isInside(p, outline);
-    return inside;
+std::vector<std::vector<Outline>> shapesOf(const std::vector<Outline>& outlines) {
+    std::vector<std::vector<Outline>> shapes;
+    for (const Outline& outer : outlines) {
+        if (outer.isHole())
+            continue;
+        shapes.push_back({outer});
+        for (const Outline& hole : outlines)
+            if (hole.depth == outer.depth + 1 && isInside(hole.corners[0], outer))
+                shapes.back().push_back(hole);
+    }
+    return shapes;
 }
 
 } // namespace stitchplan

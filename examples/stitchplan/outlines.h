@@ -17,12 +17,13 @@ Outline circleOutline(const DPoint& centre, double radius, int line);
 /// Maps all corners.
 void transform(std::vector<Outline>& outlines, const Z2DTrans& by);
 
-/// Throws MotifError for an outline that has no area or touches itself. Sets which
-/// outlines are holes, by how many others are around each, and lets outer outlines run
-/// counter-clockwise and holes clockwise.
+/// Throws MotifError for an outline that is too small, or touches itself or another. Sets
+/// how deep each lies in others, and lets outer outlines run counter-clockwise and holes
+/// clockwise, so that what is filled is to the left.
 void settle(std::vector<Outline>& outlines);
 
-/// Whether `p` lies inside by the even-odd rule; either on an outline.
-bool isInside(const DPoint& p, const std::vector<Outline>& outlines);
+/// What is filled: each outer outline with the holes that are right in it, the outer one
+/// first. For outlines that are settled.
+std::vector<std::vector<Outline>> shapesOf(const std::vector<Outline>& outlines);
 
 } // namespace stitchplan

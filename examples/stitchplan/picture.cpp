@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstddef>
 #include <string>
 
 namespace stitchplan {
@@ -21,23 +22,23 @@ class Drawing {
 public:
     explicit Drawing(const std::function<void(std::string_view)>& write) : write_(write) {}
 
-    ~Drawing() {
+    /// Hands over what waits; the last call.
+    void flush() {
         write_(text_);
+        text_.clear();
     }
 
     Drawing& operator<<(std::string_view text) {
         text_ += text;
-        if (text_.size() >= 4096) {
-            write_(text_);
-            text_.clear();
-        }
+        if (text_.size() >= 4096)
+            flush();
         return *this;
     }
 
     /// A length in points as millimetres, to a hundredth.
     Drawing& operator<<(double points) {
         char digits[64];
-        const double hundredths = zarnex::roundHalfAway(points * 10.0);
+        const double hundredths = zarnex::roundHalfAway(points * 10.0); // never -0
         const auto end = std::to_chars(digits, digits + sizeof digits, hundredths / 100.0).ptr;
         return *this << std::string_view(digits, static_cast<std::size_t>(end - digits));
     }
@@ -52,8 +53,12 @@ private:
 };
 
 std::string escaped(std::string_view text) {
+    std::string plain = host::shown(text, 100);
+    for (const std::string_view refused : {"\xEF\xBF\xBE", "\xEF\xBF\xBF"}) // no characters of XML
+        for (std::size_t at; (at = plain.find(refused)) != std::string::npos;)
+            plain.replace(at, refused.size(), "\xEF\xBF\xBD");
     std::string out;
-    for (const char c : host::shown(text, 100)) {
+    for (const char c : plain) {
         switch (c) {
         case '&':
             out += "&amp;";
@@ -91,7 +96,8 @@ void drawFabric(Drawing& out, const Motif& motif) {
 }
 
 void drawOutlines(Drawing& out, const Plan& plan) {
-    out << "<g fill=\"none\" stroke=\"#3a6ea5\" stroke-width=\".3\" stroke-dasharray=\"1.2 .8\">\n";
+    out << "<g fill=\"none\" stroke=\"#4a90c4\" stroke-width=\"1\" stroke-opacity=\".6\" "
+           "stroke-linejoin=\"round\">\n";
     for (const Z2DTrans& copy : plan.copies)
         for (const Outline& outline : plan.motif.outlines) {
             const char* lead = "<path d=\"M";
@@ -164,6 +170,7 @@ void drawPicture(const Plan& plan, const std::function<void(std::string_view)>& 
     drawThreads(out, plan.path, progress);
     drawScaleBar(out, motif);
     out << "</svg>\n";
+    out.flush();
 }
 
 } // namespace stitchplan

@@ -7,7 +7,7 @@ namespace stitchplan {
 
 /// `text` without the blanks around it.
 inline std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view blanks = " \t\r\v\f";
+    constexpr std::string_view blanks = " \t\f";
     const std::size_t first = text.find_first_not_of(blanks);
     if (first == std::string_view::npos)
         return {};
@@ -24,6 +24,14 @@ inline std::vector<std::string_view> split(std::string_view text, char separator
             return pieces;
         text.remove_prefix(end + 1);
     }
+}
+
+/// Takes the first word, up to a blank, off `text` with the blanks around it.
+inline std::string_view takeWord(std::string_view& text) {
+    text = trimmed(text);
+    const std::string_view word = text.substr(0, text.find_first_of(" \t\f"));
+    text = trimmed(text.substr(word.size()));
+    return word;
 }
 
 } // namespace stitchplan

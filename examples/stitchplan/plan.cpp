@@ -31,7 +31,7 @@ std::vector<Z2DTrans> copiesBy(const std::vector<Repeat>& repeats) {
     return copies;
 }
 
-// Every corner of every copy must lie in the hoop; all stitches then do.
+// Every corner of every copy must lie in the hoop, which is convex: all stitches then do.
 void checkHoop(const Motif& motif, const std::vector<Z2DTrans>& copies) {
     DRECT hoop;
     SetDRect(&hoop, 0.0, 0.0, 0.0, 0.0);
@@ -72,20 +72,22 @@ Plan planStitches(Motif motif, const std::function<void(int)>& progress) {
     transform(plan.motif.outlines, scale);
     checkHoop(plan.motif, plan.copies);
     settle(plan.motif.outlines);
-
-    StitchPath one;
-    const int rows = fill(plan.motif, one, progress);
-    for (const Outline& outline : plan.motif.outlines)
-        sewAlong(outline, plan.motif.stitchLength, one);
-
-    const auto copies = static_cast<int>(plan.copies.size());
-    if (one.needles() > mostStitches / copies)
-        throw MotifError(0, "more than 10000000 stitches in all");
-    for (const Z2DTrans& copy : plan.copies) {
-        plan.path.append(one, copy);
-        progress(plan.path.needles());
+    try {
+        StitchPath one;
+        int rows = 0;
+        for (const std::vector<Outline>& shape : shapesOf(plan.motif.outlines))
+            rows += fill(shape, plan.motif, one, progress);
+        for (const Outline& outline : plan.motif.outlines)
+            sewAlong(outline, plan.motif.stitchLength, one);
+        for (const Z2DTrans& copy : plan.copies) {
+            plan.path.append(one, copy);
+            progress(plan.path.needles());
+            plan.rows += rows;
+        }
+    } catch (const TooManyNeedles& error) {
+        const int line = plan.motif.spacingLine > 0 ? plan.motif.spacingLine : plan.motif.stitchLine;
+        throw MotifError(line, error.what());
     }
-    plan.rows = rows * copies;
     plan.extent = extentOf(plan.path);
     return plan;
 }

@@ -1,6 +1,7 @@
 #include "stitchplan/runningStitch.h"
 
-#include <zarnex/containers/ZList.h>
+#include <zarnex/containers/ZXArray.h>
+#include <zarnex/geometry/projection.h>
 #include <zarnex/geometry/segmentAtDistance.h>
 
 #include <algorithm>
@@ -16,39 +17,79 @@ bool isSharp(const DPoint& before, const DPoint& at, const DPoint& after) {
     return (at - before).normalize() * (after - at).normalize() < cosineOf20Degrees;
 }
 
-double lengthOf(const ZList<DPoint>& way) {
-    double sum = 0.0;
-    const DPoint* before = nullptr;
-    for (const DPoint& point : way) {
-        if (before != nullptr)
-            sum += (point - *before).length();
-        before = &point;
+/// A piece of an outline, and how far each of its points is along it.
+class Way {
+public:
+    explicit Way(const DPoint& start) {
+        add(start);
     }
-    return sum;
-}
+
+    void add(const DPoint& point) {
+        along_.add(points_.length() == 0 ? 0.0 : length() + last().distance(point));
+        points_.add(point);
+    }
+
+    const DPoint& last() const {
+        return points_[points_.length() - 1];
+    }
+
+    double length() const {
+        return along_[along_.length() - 1];
+    }
+
+    int points() const {
+        return points_.length();
+    }
+
+    const DPoint& point(int i) const {
+        return points_[i];
+    }
+
+    double along(int i) const {
+        return along_[i];
+    }
+
+    /// The point at `distance` along the way, which is beyond point `i` and not beyond the
+    /// next.
+    DPoint at(double distance, int i) const {
+        DPoint found = points_[i + 1];
+        pointOnLineSegmentWithDistanceAway(found, distance - along_[i], points_[i], points_[i + 1]);
+        return found;
+    }
+
+private:
+    ZXArray<DPoint> points_;
+    ZXArray<double> along_;
+};
 
 // Sews along the way, whose first point the needle has reached.
-void sewWay(const ZList<DPoint>& way, double stitchLength, StitchPath& path) {
-    const double length = lengthOf(way);
-    const double fewest = *way.begin() == *way.rbegin() ? 3.0 : 1.0; // round a tiny circle
-    const double count = (std::max)(std::ceil(length / stitchLength - 1e-6), fewest);
-    const double step = length / count;
-    double toGo = step; // to the next needle
-    const DPoint* from = nullptr;
-    double sewn = 1.0;
-    for (const DPoint& to : way) {
+void sewWay(const Way& way, double stitchLength, StitchPath& path) {
+    constexpr double mostBeside = 1.0;
+    const double count = std::ceil(way.length() / stitchLength - 1e-6);
+    const double step = way.length() / (std::max)(count, 1.0);
+    double reached = 0.0;
+    int behind = 0; // the last point of the way that is reached
+    while (way.length() - reached > 1e-6) {
+        double ahead = step;
         DPoint needle;
-        while (from != nullptr && sewn < count &&
-               pointOnLineSegmentWithDistanceAway(needle, toGo, *from, to)) {
-            path.sewTo(needle);
-            toGo += step;
-            ++sewn;
+        int next = behind;
+        for (bool isNear = false; !isNear; ahead /= 2.0) {
+            const double goal = (std::min)(reached + ahead, way.length());
+            for (next = behind; next + 2 < way.points() && way.along(next + 1) < goal;)
+                ++next;
+            needle = way.length() - goal > 1e-6 ? way.at(goal, next) : way.last();
+            isNear = true;
+            for (int i = behind + 1; isNear && i <= next; ++i)
+                isNear =
+                    ahead <= shortestStitch ||
+                    distanceToLineSegment(path.lastNeedle(), needle, way.point(i)) <= mostBeside;
+            if (isNear)
+                reached = goal;
         }
-        if (from != nullptr)
-            toGo -= (to - *from).length();
-        from = &to;
+        path.sewTo(needle);
+        behind = next;
     }
-    path.sewTo(*from);
+    path.sewTo(way.last());
 }
 
 } // namespace
@@ -57,14 +98,14 @@ void sewAlong(const Outline& outline, double stitchLength, StitchPath& path) {
     const int count = outline.corners.length();
     path.cutThread();
     path.sewTo(outline.corners[0]);
-    ZList<DPoint> way{outline.corners[0]};
+    Way way(outline.corners[0]);
     for (int i = 1; i <= count; ++i) {
         const DPoint& corner = outline.corners[i % count];
         way.add(corner);
         if (i == count ||
             isSharp(outline.corners[i - 1], corner, outline.corners[(i + 1) % count])) {
             sewWay(way, stitchLength, path);
-            way = {corner};
+            way = Way(corner);
         }
     }
 }

@@ -1,5 +1,7 @@
 #include "stitchplan/sections.h"
 
+#include "stitchplan/StitchPath.h"
+
 #include <zarnex/geometry/lineIntersection.h>
 
 #include <algorithm>
@@ -12,6 +14,7 @@ namespace stitchplan {
 namespace {
 
 constexpr double mostRows = 1000000.0;
+constexpr int mostSpans = StitchPath::mostNeedles / 2; // each takes two needles or more
 
 /// An edge of an outline, upward.
 struct Side {
@@ -115,7 +118,7 @@ Rows rowsIn(const std::vector<Outline>& outlines, double spacing, int line) {
             low = (std::min)(low, outline.corners[i].y);
             high = (std::max)(high, outline.corners[i].y);
         }
-    const double count = (std::max)(std::floor((high - low) / spacing), 1.0);
+    const double count = (std::max)(std::round((high - low) / spacing), 1.0);
     if (!(count <= mostRows))
         throw MotifError(line, "so narrow a spacing makes more than 1000000 rows");
     return {low + (high - low - (count - 1.0) * spacing) / 2.0, spacing, static_cast<int>(count)};
@@ -129,6 +132,7 @@ std::vector<Section> sectionsOf(const std::vector<Outline>& outlines, const Rows
     std::vector<Top> tops;
     std::vector<Top> nextTops;
     Sweep sweep(outlines);
+    int count = 0;
     for (int row = 0; row < rows.count; ++row) {
         const std::vector<Span>& spans = sweep.spansAt(rows.y(row), shortest);
         const std::vector<std::size_t> below = partners(spans, tops, itself, ofTop);
@@ -142,6 +146,8 @@ std::vector<Section> sectionsOf(const std::vector<Outline>& outlines, const Rows
             sections[nextTops.back().section].spans.push_back(spans[i]);
         }
         tops.swap(nextTops);
+        if ((count += static_cast<int>(spans.size())) > mostSpans)
+            throw TooManyNeedles();
     }
     return sections;
 }

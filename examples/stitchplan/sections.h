@@ -24,18 +24,19 @@ struct Span {
 };
 
 /// Spans in neighbouring rows, one a row, each of which overlaps the next and no other
-/// span of that row: what can be sewn up and down without leaving the shape.
+/// span of that row: what is sewn up and down in one go.
 struct Section {
     int firstRow = 0;
     std::vector<Span> spans;
 };
 
-/// As many rows as fit between the lowest and the highest corner, centred there; one
-/// where none fits. Throws MotifError, naming `line`, where there would be too many.
+/// The rows between the lowest and the highest corner, centred there: as many as make the
+/// edges a quarter to three quarters of the spacing wide, and one at least. Throws MotifError,
+/// naming `line`, where there would be too many.
 Rows rowsIn(const std::vector<Outline>& outlines, double spacing, int line);
 
 /// The sections of a shape by the even-odd rule, ordered by their first rows. Spans
-/// shorter than `shortest` are left out.
+/// shorter than `shortest` are left out. Throws TooManyNeedles for too many spans.
 std::vector<Section> sectionsOf(const std::vector<Outline>& outlines, const Rows& rows,
                                 double shortest);
 

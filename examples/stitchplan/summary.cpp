@@ -2,6 +2,7 @@
 
 #include "common/utf8.h"
 
+#include <zarnex/geometry/rounding.h>
 #include <zarnex/strings/ZString.h>
 #include <zarnex/units/ZEmbPoint.h>
 #include <zarnex/units/ZInch.h>
@@ -19,7 +20,8 @@ std::string text(const ZString& shown) {
 }
 
 std::string millimeters(double points) {
-    return text(ZMillimeter(ZEmbPoint(points)).getString(0, 1));
+    const ZEmbPoint tenths(zarnex::roundHalfAway(points)); // of a millimetre; no -0.0
+    return text(ZMillimeter(tenths).getString(0, 1));
 }
 
 std::string counted(int count, const char* one, const char* many) {
@@ -39,19 +41,19 @@ std::string summaryOf(const Plan& plan) {
     const Motif& motif = plan.motif;
     const ZEmbPoint thread(plan.path.length());
     const ZInch inches(thread);
-    const ZSpi density(plan.path.needles() / double(inches));
+    const ZSpi density(plan.path.stitches() / double(inches));
     const auto holes = static_cast<int>(std::count_if(motif.outlines.begin(), motif.outlines.end(),
-                                                      [](const Outline& o) { return o.isHole; }));
+                                                      [](const Outline& o) { return o.isHole(); }));
     const int outlines = static_cast<int>(motif.outlines.size()) - holes;
     const DRECT& extent = plan.extent;
 
     std::string lines;
     if (!motif.title.empty())
-        lines += row("title", motif.title);
+        lines += row("title", host::shown(motif.title, 100));
     lines += row("outlines", counted(outlines, "outline", "outlines") + ", " +
                                  counted(holes, "hole", "holes") + ", " +
                                  counted(static_cast<int>(plan.copies.size()), "copy", "copies"));
-    lines += row("stitches", std::to_string(plan.path.needles()));
+    lines += row("stitches", std::to_string(plan.path.stitches()));
     lines += row("rows", std::to_string(plan.rows));
     lines += row("threads", std::to_string(plan.path.threads()));
     lines += row("thread", millimeters(thread) + ", " + text(inches.getString(0, 2)));

@@ -95,7 +95,10 @@ double lengthOrDensity(std::string_view text, int bareUnit) {
 }
 
 double angle(std::string_view text) {
-    return ZDegree(numberIn(text, {"degrees", "degree", "deg", "°"}));
+    const ZDegree degrees(numberIn(text, {"degrees", "degree", "deg", "°"}));
+    if (!(std::fabs(degrees) <= 360.0))
+        throw ValueError("more than 360 degrees: " + host::quoted(text));
+    return degrees;
 }
 
 double percentage(std::string_view text) {

@@ -26,7 +26,8 @@ double length(std::string_view text, int bareUnit);
 /// The same, or a density in stitches per inch as the length of one stitch.
 double lengthOrDensity(std::string_view text, int bareUnit);
 
-/// A number of degrees, with or without "degrees", "deg" or the degree sign behind it.
+/// A number of degrees, a full turn at most, with or without "degrees", "deg" or the degree sign
+/// behind it.
 double angle(std::string_view text);
 
 /// A number of percent, with or without "percent" or "%" behind it.

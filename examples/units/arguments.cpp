@@ -30,10 +30,11 @@ to, or in UNIT alone: the unit, the display text and the exact number.
 UNIT is mm, cm, in, pt, spi, "per sq cm", mm/s, cm/s or another word for one.
 The status is 0 if all texts are valid, 1 if not, 2 if the call, the file or the
 output is at fault. Words that are no units, as in "3 ft" and "50 %", are ignored:
-the number counts as it does without them, and what was ignored is said.
+the number counts as it does without them, and what was ignored is said. Fractions are
+not read: "1 1/2 in" is 1 mm.
 
   zarnex-units "2.5 mm"
-  zarnex-units "1 1/2 in" --check
+  zarnex-units "1 in extra" --check
   zarnex-units --unit in --file lengths.txt > lengths.tsv
 )";
 

@@ -31,8 +31,11 @@ endif()
 
 # Devices are written, never replaced.
 if(EXISTS /dev/full)
-    expect(STATUS 2 ARGS --svg /dev/full leaf.motif ERR_MATCHES
-        "^zarnex-stitchplan: cannot write /dev/full: [^\n]+\n$")
+    file(WRITE ${SCRATCH}/large.motif "hoop 90 x 90\nspacing 0.1\ncircle 40, 0; 0, 40; -40, 0\n")
+    foreach(motif leaf.motif ${SCRATCH}/large.motif) # waits in one buffer, or fills several
+        expect(STATUS 2 ARGS --svg /dev/full ${motif} ERR_MATCHES
+            "^zarnex-stitchplan: cannot write /dev/full: [^\n]+\n$")
+    endforeach()
     expect(STATUS 0 ARGS --svg /dev/null leaf.motif OUT_MATCHES "picture     /dev/null\n$")
     if(NOT EXISTS /dev/full OR NOT EXISTS /dev/null)
         message(SEND_ERROR "a device is gone")

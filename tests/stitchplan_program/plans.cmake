@@ -7,32 +7,32 @@ set(picture ${SCRATCH}/plan.svg)
 expect(STATUS 0 ARGS leaf.motif OUT
 [[title       A leaf
 outlines    2 outlines, 0 holes, 2 copies
-stitches    2318
-rows        342
+stitches    2314
+rows        344
 threads     8
-thread      4433.0 mm, 174.53 in
+thread      4439.1 mm, 174.77 in
 extent      36.0 mm x 82.0 mm, from (-18.0 mm, -44.0 mm) to (18.0 mm, 38.0 mm)
-density     13.28 spi
+density     13.24 spi
 ]])
 expect(STATUS 0 ARGS star.motif OUT
 [[title       A star with a hole
 outlines    1 outline, 1 hole, 1 copy
-stitches    2883
-rows        262
-threads     6
-thread      5320.7 mm, 209.48 in
+stitches    2890
+rows        264
+threads     7
+thread      5325.2 mm, 209.65 in
 extent      79.8 mm x 76.0 mm, from (-39.9 mm, -34.0 mm) to (39.9 mm, 42.0 mm)
-density     13.76 spi
+density     13.78 spi
 ]])
 expect(STATUS 0 ARGS initials.motif OUT
 [[title       Initials
 outlines    3 outlines, 1 hole, 1 copy
-stitches    3622
-rows        675
+stitches    3620
+rows        677
 threads     11
-thread      6471.9 mm, 254.80 in
+thread      6453.5 mm, 254.07 in
 extent      86.6 mm x 86.6 mm, from (-43.3 mm, -43.3 mm) to (43.3 mm, 43.3 mm)
-density     14.22 spi
+density     14.25 spi
 ]])
 
 # The picture in the README is what the program draws.
@@ -71,7 +71,8 @@ needles("hoop 40 x 40\nstitch 10\nspacing 9\nscale 200 %\n${square}"
 18 0L18 -9L18 -18L9 -18L0 -18L0 -9L0 0L9 0L18 0")
 # A hole stays free: the rows beside it are sewn one side after the other, on one thread.
 needles("hoop 40 x 40\nstitch 12\nspacing 2\n${square}outline 3, 3; 6, 3; 6, 6; 3, 6\nclose\n"
-"0 -1.5L9 -1.5L9 -3.5L6 -3.5L6 -5.5L8 -5.5L9 -5.5L9 -7.5L0 -7.5L0 -5.5L3 -5.5L3 -3.5L0 -3.5
+"0 -0.5L9 -0.5L9 -2.5L4 -2.5L0 -2.5L0 -4.5L3 -4.5
+6 -4.5L8 -4.5L9 -4.5L9 -6.5L0 -6.5L0 -8.5L4 -8.5L9 -8.5
 9 0L9 -9L0 -9L0 0L9 0
 3 -6L6 -6L6 -3L3 -3L3 -6")
 # Between two outlines the thread is cut.
@@ -91,7 +92,19 @@ outline 2, 1; 7, 1; 7, 5\nclose\n"
 -2 -1L-7 -1L-7 -5L-4.5 -3L-2 -1
 3 -4.5L3 -5L3 -7
 1 -2L1 -7L5 -7L3 -4.5L1 -2")
-# Outlines: needles in sharp corners, equal stitches between, at least three round a circle.
+# Where the way to the next row would leave the shape, round a step or across a slit, it
+# goes where one row is above the other.
+needles("hoop 90 x 60\nspacing 2\nstitch 40\noutline -10, 0; 0, 0; 0, 2; 20, 2; 20, 4; -10, 4\nclose\n"
+"-10 -1L0 -1L-0.3 -1L-0.3 -3L20 -3L13.33 -3L-10 -3
+-10 0L0 0L0 -2L20 -2L20 -4L-10 -4L-10 0")
+needles("hoop 90 x 60\nspacing 4\nstitch 40\noutline 0, 0; 9, 0; 9, 3.9; 1, 3.9; 1, 4.1; 9, 4.1; 9, 8; 0, 8\nclose\n"
+"0 -2L9 -2L0.3 -2L0.3 -6L9 -6L0 -6
+0 0L9 0L9 -3.9L1 -3.9L1 -4.1L9 -4.1L9 -8L0 -8L0 0")
+# A row that is a little longer than a stitch gets a needle in its middle.
+needles("hoop 90 x 60\nspacing 9\nstitch 5\noutline 4.8, 0; 10.2, 0; 10.2, 4; 4.8, 4\nclose\n"
+"4.8 -2L7.5 -2L10.2 -2
+4.8 0L7.5 0L10.2 0L10.2 -4L7.5 -4L4.8 -4L4.8 0")
+# Outlines: needles in sharp corners and equal stitches between, shorter ones in a bend.
 needles("hoop 40 x 40\nstitch 40 mm\nspacing 50\ncircle 1, 0; 0, 1; -1, 0\n"
 "-1 0L0 0L1 0
-1 0L-0.5 -0.87L-0.5 0.87L1 0")
+1 0L0.71 -0.71L0 -1L-0.71 -0.71L-1 0L-0.71 0.71L0 1L0.71 0.71L1 0")

@@ -47,9 +47,12 @@ refuse("spacing 0 spi" "1 spacing 0 spi" "no length: \"0 spi\"")
 refuse("spacing -1 mm" "1 spacing -1 mm" "the spacing of rows must be above zero")
 refuse("angle steep" "1 angle steep" "cannot read \"steep\": not a number with \"degrees\"")
 refuse("angle 1.2.3" "1 angle 1.2.3" "cannot read \"1.2.3\": not a number with \"degrees\"")
+refuse("angle 361" "1 angle 361" "more than 360 degrees: \"361\"")
 refuse("scale 0 %" "1 scale 0 %" "the scale must be above 0 % and no more than 10000 %")
 refuse("units spi" "1 units spi" "not the unit of a length: \"spi\"")
 refuse("repeat 0 by 90" "1 repeat 0 by 90" "not a whole number from 1 to 1000: \"0\"")
+refuse("repeat 4 at 9" "1 repeat 4 at 9"
+    "a repeat is \"mirrored\", \"flipped\" or such as \"6 by 60 degrees\"")
 refuse("repeat 40 by 9\nrepeat 40 by 9" "2 repeat 40 by 9" "this makes more than 1000 copies")
 refuse("repeat often" "1 repeat often"
     "a repeat is \"mirrored\", \"flipped\" or such as \"6 by 60 degrees\"")
@@ -78,6 +81,14 @@ foreach(row IN ITEMS
     refuse("hoop 60 x 60\noutline ${points}\nclose" "2 outline ${points}" "${problem}")
 endforeach()
 
+refuse("hoop 9 x 9\ncircle 0.1, 0; 0, 0.1; -0.1, 0" "2 circle 0.1, 0; 0, 0.1; -0.1, 0"
+    "an outline of less than 1.2 mm all round")
+refuse("hoop 60 x 60\n${square}outline 5, 5; 20, 5; 20, 20\nclose" "4 outline 5, 5; 20, 5; 20, 20"
+    "the outline touches another near this point")
+string(REPEAT "circle 4000, 0; 0, 4000; -4000, 0\n" 100 circles)
+refuse("hoop 9 x 9\n${circles}" "22 circle 4000, 0; 0, 4000; -4000, 0"
+    "this makes more than 20000 corners")
+
 # The hoop, which scale and copies may reach too.
 refuse("hoop 10 x 20\n${square}" "2 outline 0, 0; 9, 0; 9, 9; 0, 9"
     "this lies outside the hoop")
@@ -97,6 +108,9 @@ file(WRITE ${file} "hoop 9 x 9\n\tcaf")
 string(ASCII 233 10 latin)
 file(APPEND ${file} "${latin}")
 expect(STATUS 2 ARGS ${file} ERR_MATCHES "refused.motif:2: this is no text: \" caf.*\"\n$")
+string(ASCII 13 return)
+file(WRITE ${file} "hoop 9 x 9${return}circle 4, 0")
+expect(STATUS 2 ARGS ${file} ERR_MATCHES "refused.motif:1: this is no text: \"hoop 9 x 9 circle 4, 0\"\n$")
 string(REPEAT "# a long comment in a file that is far too long\n" 100000 huge)
 refuse("${huge}" "" "more than 4 MiB is no motif")
 expect(STATUS 2 ARGS no.motif ERR "zarnex-stitchplan: cannot read no.motif: No such file or directory\n")
@@ -109,4 +123,8 @@ set(more "; zarnex-stitchplan --help tells more\n")
 expect(STATUS 2 ARGS ERR "zarnex-stitchplan: no motif${more}")
 expect(STATUS 2 ARGS leaf.motif star.motif ERR "zarnex-stitchplan: more than one motif${more}")
 expect(STATUS 2 ARGS leaf.motif --svg ERR "zarnex-stitchplan: --svg needs the name of a file${more}")
+expect(STATUS 2 ARGS --svg - leaf.motif ERR "zarnex-stitchplan: --svg needs the name of a file${more}")
+file(COPY ${DATA}/leaf.motif DESTINATION ${SCRATCH})
+expect(STATUS 2 ARGS --svg ${SCRATCH}/leaf.motif ${SCRATCH}/leaf.motif ERR
+    "zarnex-stitchplan: the picture would replace the motif ${SCRATCH}/leaf.motif\n")
 expect(STATUS 2 ARGS --png x leaf.motif ERR "zarnex-stitchplan: not an option: \"--png\"${more}")

@@ -24,6 +24,9 @@
 ///     DPoint corner;
 ///     intersect(corner, DPoint(0, 0), DVector(1, 1), DPoint(4, 0), DVector(0, 2)); // (4, 4)
 ///
+/// The types tell the forms apart: bare braces fit several. Whether two segments meet,
+/// isContainedIntersect() tells.
+///
 /// Kept as is: lines are parallel if the cross product of their directions is below 1e-14
 /// in size, whatever their lengths, so that (1e-8, 0) and (0, 1e-8) are. parallel() bounds
 /// the sine of the angle instead.

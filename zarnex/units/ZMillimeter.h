@@ -18,13 +18,17 @@ class ZSpi;
 /// isValid() == 0. Nothing throws. Reading text holds the scanner lock; the label is
 /// process-wide and unguarded.
 ///
+/// Kept as is: only a unit that follows the number at once counts. Behind anything else the
+/// number is bare and valid, and the rest is not looked at: "1 1/2 in" and "1 2 in" are
+/// 1 mm. ZUnitScanner tells what follows.
+///
 /// Kept as is: a word behind the unit and white space keeps the value and makes it
 /// invalid ("1 in extra"), although what stands directly at the unit is dropped
 /// without harm ("3 int", "5 cm/s"). A lone sign counts as a number and has the value of the latest
 /// number that the process read, and text with a token of 100 characters ends the process, although
 /// everything else that cannot be read is merely invalid.
 ///
-///     ZMillimeter length(ZString("1 inch"));
+///     ZMillimeter length("1 inch");
 ///     double(length)            // 25.4
 ///     ZString(length)           // "25.4 mm"
 ///     length.getStringWithUnits(5)  // "254.0 pt"

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "stitchplan/Motif.h"
+
+#include <cstddef>
+#include <vector>
+
+namespace stitchplan {
+
+/// The sides of outlines by place, to find those near a short way.
+class SideGrid {
+public:
+    explicit SideGrid(const std::vector<Outline>& outlines);
+
+    /// Whether the straight way meets a side that is not parallel to it.
+    bool isCrossed(const DPoint& from, const DPoint& to) const;
+
+private:
+    struct Side {
+        DPoint from;
+        DPoint to;
+    };
+
+    int column(double x) const;
+    int row(double y) const;
+    const std::vector<int>& cell(int column, int row) const;
+    void add(int side);
+
+    std::vector<Side> sides_;
+    std::vector<std::vector<int>> cells_; ///< row by row: indices of sides
+    DPoint corner_;                       ///< the least coordinates
+    double cellWidth_ = 1.0;
+    double cellHeight_ = 1.0;
+    int count_ = 1; ///< of columns, and of rows
+};
+
+} // namespace stitchplan
