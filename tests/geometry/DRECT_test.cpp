@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstddef>
 #include <cstring>
 
@@ -31,11 +32,14 @@ TEST(DRECT, TwoRectanglesMeet) {
         {{-1, -1, 0, 0}, {0, 0, 1, 1}, 1, none, {-1, -1, 1, 1}},    // in an empty rectangle
         {ten, {0, 10 + 5e-10, 9, 20}, 1, {0, 10 + 5e-10, 9, 10}, {0, 0, 10, 20}},
         {ten, {0, 10 + 2e-9, 10, 20}, 0, none, {0, 0, 10, 20}},
+        {ten, {10 + 2e-9, 0, 20, 10}, 0, none, {0, 0, 20, 10}},
+        {ten, {-20, 0, -2e-10, 10}, 0, none, {-20, 0, 10, 10}},
         {ten, none, 0, none, ten},
+        {{1e-11, 0, 0, 0}, none, 0, none, none},   // both empty: the second
         {{5, 5, 5, 5}, ten, 2, {5, 5, 5, 5}, ten}, // without an area, but not empty
-        {{2, 0, 8, 8}, ten, 1, {2, 0, 8, 8}, ten}, // on an edge is not inside
-        {{0, 2, 8, 8}, ten, 1, {0, 2, 8, 8}, ten},
-        {{2, 2, near, 8}, ten, 1, {2, 2, near, 8}, {0, 0, near, 10}}, // edges of the first
+        {{2, 5e-11, 8, 8}, ten, 1, {2, 5e-11, 8, 8}, {0, 5e-11, 10, 10}}, // on an edge
+        {{5e-11, 2, 8, 8}, ten, 1, {5e-11, 2, 8, 8}, {5e-11, 0, 10, 10}}, // is not inside
+        {{2, 2, near, 8}, ten, 1, {2, 2, near, 8}, {0, 0, near, 10}},     // edges of the first
         {{2, 2, 8, near}, ten, 1, {2, 2, 8, near}, {0, 0, 10, near}},
         {{2, 2, off, off}, ten, 2, {2, 2, off, off}, ten},
         {ten, ten, 1, ten, ten},
@@ -73,6 +77,9 @@ TEST(DRECT, EdgesBelongToTheClosedTestAndInPartToTheHalfOpenOne) {
 
 TEST(DRECT, OneRectangle) {
     DRECT r;
+    SetDRect(&r, 7, 10, 5, 10 - 1e-12);
+    NormalizeDRect(&r);
+    EXPECT_TRUE(same(r, {5, 10, 7, 10 - 1e-12}));
     SetDRect(&r, 10, 7, 10 - 1e-12, 5);
     NormalizeDRect(&r);
     EXPECT_TRUE(same(r, {10, 5, 10 - 1e-12, 7})) << "within the tolerance nothing moves";
@@ -89,6 +96,8 @@ TEST(DRECT, OneRectangle) {
         r.*field = 1e10;
         other.*field = 1e10 + 0.999; // of a tolerance of 1
         EXPECT_TRUE(EqualDRect(&r, &other));
+        other.*field = HUGE_VAL; // and so is its tolerance
+        EXPECT_TRUE(EqualDRect(&r, &other) && !EqualDRect(&other, &r));
     }
 }
 

@@ -99,7 +99,7 @@ TEST(MersenneTwister, EndsOfTheRange) {
     EXPECT_EQ(zeros.randomClosedEnd(), 1.0);
     EXPECT_EQ(zeros.random(), 1.0 - 1.0 / 4294967296.0);
     for (const int index : {-1, INT_MIN, 624, 626, INT_MAX}) {
-        ZrnRandomGenerator2 regular(4357), strange(4357);
+        ZrnRandomGenerator2 regular(1), strange(1);
         strange.index = index;
         EXPECT_EQ(strange.random(), regular.random()) << index;
     }

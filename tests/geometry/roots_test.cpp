@@ -14,6 +14,7 @@ namespace {
 
 TEST(CircleCentre, TheTwoRefuseDifferentPoints) {
     const DPoint before(-12345, -12345);
+    const DPoint remote(-1.1624689811485716e+23, 1.2916322012761913e+22); // by rounding alone
     const struct {
         DPoint p1, p2, p3;
         int angled, eliminated;
@@ -22,12 +23,18 @@ TEST(CircleCentre, TheTwoRefuseDifferentPoints) {
         {{0, 0}, {2, 0}, {0, 2}, 0, 0, {1, 1}},
         {{0, 0}, {0, 2}, {2, 0}, 0, 0, {1, 1}}, // rows exchanged
         {{0, 0}, {1, 0}, {2, 0}, -1, -1, before},
-        {{0, 0}, {0, 1}, {0, 2}, -1, -1, before}, // no pivot
-        {{1, 1}, {1, 1}, {2, 0}, -1, -1, before},
-        {{1, 1}, {2, 0}, {1, 1}, -1, -1, before},
+        {{0, 0}, {4e-10, 1}, {0, 2}, -1, -1, before}, // no pivot
+        {{0, 0}, {1e-9, 0}, {0, 10}, -1, -1, before}, // two of them near, in each place
+        {{0, 0}, {0, 10}, {1e-9, 0}, -1, -1, before},
+        {{0, 0}, {0, 10}, {1e-9, 10}, -1, -1, before},
+        {{0, 0}, {1.5e-9, 0}, {0, 10}, -1, 0, {7.5e-10, 5}},
+        {{0, 0}, {0, 10}, {1.5e-9, 10}, -1, 0, {0, 5}},
+        {{0, 0}, {100, 0}, {100, 1.005}, 0, 0, {50, 0.5025}}, // sines around 0.01
+        {{0, 0}, {100, 0}, {100, 0.999}, -1, 0, {50, 0.4995}},
         {{0, 0}, {100, 0}, {200, 1}, -1, 0, {50, 10000.5}},
-        {{0, 0}, {16, 0}, {0, 2e-6}, -1, 0, {8, 1e-6}},      // a short step from p1
-        {{0, 0}, {1e-5, 0}, {0, 1e-5}, -1, 0, {5e-6, 5e-6}}, // a small area
+        {{0, 0}, {16, 0}, {0, 2e-6}, -1, 0, {8, 1e-6}},                 // a short step from p1
+        {{0, 0}, {1e-5, 0}, {0, 1e-5}, -1, 0, {5e-6, 5e-6}},            // a small area
+        {{0, 0}, {679008, 6111072}, {1111104, 9999936}, -1, 0, remote}, // on one line
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(&row - rows);
@@ -55,7 +62,8 @@ int cubic(const double* k, double* r) {
 }
 
 TEST(Roots, ComeInTheirOrderWithinAbsoluteBounds) {
-    const double small = std::cbrt(5e-6);
+    const double small = std::cbrt(1.1e-9), spoilt = std::cbrt(3.1e-5);
+    constexpr double d = 7.0 / 2048; // whose square, 1.168e-5, is the discriminant
     const struct {
         int (*solve)(const double* coefficients, double* roots);
         double coefficients[5];
@@ -68,9 +76,11 @@ TEST(Roots, ComeInTheirOrderWithinAbsoluteBounds) {
         {fixed, {1, 0, 1}, {}},
         {fixed, {-1, 0, 4}, {2, -2}},
         {fixed, {1, -3, 2}, {1, 2}},
-        {fixed, {1, 2, 1 - 5e-6 / 4}, {-1}}, // a discriminant of 5e-6, -5e-6, -2e-5
-        {fixed, {1, 2, 1 + 5e-6 / 4}, {-1}},
-        {fixed, {1, 2, 1 + 2e-5 / 4}, {}},
+        {fixed, {1e-10, 2, 0}, {0, -2 / 1e-10}},
+        {fixed, {1, 2, 1 - 9e-6 / 4}, {-1}}, // a discriminant of 9e-6, -9e-6, -1.1e-5
+        {fixed, {1, 2, 1 + 9e-6 / 4}, {-1}},
+        {fixed, {1, 2, 1 + 1.1e-5 / 4}, {}},
+        {fixed, {1, 2, 1 - d * d / 4}, {-1 - d / 2, -1 + d / 2}},
         {fixed, {1, 1e9, 1}, {HUGE_VAL, -1e-9}}, // cancelled
         {chosen, {1, 1e9, 1, 1e-9, 1e-9}, {-1e9, -1e-9}},
         {chosen, {0.5, 0.5, 2, 0.5, 0}, {}}, // 0.5 is not below 0.5
@@ -82,14 +92,24 @@ TEST(Roots, ComeInTheirOrderWithinAbsoluteBounds) {
         {chosen, {1, 0, 1, 1e-9, -4}, {0}},
         {chosen, {1, 0, 1, 1e-9, 3.9}, {}},
         {chosen, {1, 0, 0, 1e-9, 0}, {0, NAN}},
+        {chosen, {0, 1, -1, 0, 1e-9}, {-HUGE_VAL, NAN}}, // divided by 0
         {cubic, {1, -6, 11, -6}, {3, 2, 1}},
         {cubic, {2, -12, 24, -16}, {2}},
         {cubic, {1, -3, 0, 4}, {-1, 2}},
         {cubic, {1, 0, 1, -10}, {2}},
-        {cubic, {1e-7, 1, -3, 2}, {2, 1}}, // a counts as zero
+        {cubic, {1, -600, 110000, -6e6}, {300, 200.00000001578886, 100.00000000789444}},
+        {cubic, {1e-6, 1, -3, 2}, {2, 1}}, // a counts as zero
+        {cubic, {1.1e-6, 1, -3, 2}, {1.9999840122763999, 1.000080055790022, -909093.909083209}},
         {cubic, {0, 1, -2, 1 - 1e-8}, {1.0001, 0.9999}},
+        {cubic, {0, 1, -2, 1 - 2e-10}, {1}},
         {cubic, {0, 1e-9, 2, -4}, {2}},
-        {cubic, {1, 0, 0, -1e-5}, {2 * small, -small}}, // a small root is spoilt
+        {cubic, {0, 2e-9, 2, -4}, {-1000000001.9999999, 1.999999996}},
+        {cubic, {0, 0, 1e-9, 5}, {}},
+        {cubic, {0, 0, 2e-9, 4e-9}, {-2}},
+        {cubic, {1, 0, 0, 2e-9}, {0}},
+        {cubic, {1, 0, 0, 2.2e-9}, {-2 * small, small}},
+        {cubic, {1, 0, 0, -6.2e-5}, {2 * spoilt, -spoilt}}, // 0.0396 would be the root
+        {cubic, {1, 0, 0, -6.4e-5}, {0.04}},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(&row - rows);

@@ -95,7 +95,9 @@ TEST(Z2DMatrix, AnotherShapeMakesItAGeneralMatrix) {
         m = general;
         EXPECT_EQ(elementsOf(Matrix(general)), Numbers({1, 0, 0, 1}));
         EXPECT_EQ(m.det() + m.solve(whole), 0.0);
-        EXPECT_EQ(m.invert() + m.transpose() + m.transpose(m) + m.invert(m), 4);
+        Matrix alike(m);
+        EXPECT_EQ(m.invert() + m.transpose() + m.invert(m) + m.invert(alike), 4);
+        EXPECT_EQ(m.transpose(m), general.transpose(general));
         EXPECT_EQ(m.invert(whole) + whole.invert(m) + whole.multiply(m, m), 3);
         EXPECT_EQ(m.transpose(whole) + whole.transpose(m) + m.multiply(m, whole), 3);
         EXPECT_EQ((m * DPoint(3, 4)).x, 3);

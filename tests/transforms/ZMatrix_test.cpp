@@ -143,7 +143,7 @@ TEST(ZMatrix, GeneralShapesHaveNoLinearAlgebra) {
     EXPECT_EQ(elementsOf(other), Numbers({5, 6, 7, 8}));
 }
 
-TEST(ZMatrix, DerivedClassesExchangeRowsAndColumns) {
+TEST(ZMatrix, DerivedClassesExchangeRowsAndColumnsAndClearForIdentity) {
     struct Derived : Matrix {
         explicit Derived(const Matrix& m) : Matrix(m) {
             swapRow(0, 2);
@@ -152,8 +152,14 @@ TEST(ZMatrix, DerivedClassesExchangeRowsAndColumns) {
             swapRow(0, 3);
             swapCol(0, 2);
         }
+        void clear() override {
+            set(0, 1, 7);
+        }
     };
     EXPECT_EQ(elementsOf(Derived(matrix(3, 2, {1, 2, 3, 4, 5, 6}))), Numbers({6, 5, 4, 3, 2, 1}));
+    Derived square(matrix(2, 2, {2, 3, 4, 5}));
+    EXPECT_EQ(square.identity(), 0);
+    EXPECT_EQ(elementsOf(square), Numbers({1, 7, 5, 1}));
 }
 
 TEST(ZMatrix, WithoutMemoryItIsEmptyAndHarmless) {

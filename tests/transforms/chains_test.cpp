@@ -7,9 +7,12 @@
 #include <zarnex/transforms/ReverseTrans.h>
 #include <zarnex/transforms/ZHashablePointer.h>
 
+#include <type_traits>
+
 namespace {
 
 using Arb = ArbTrans<DPoint>;
+static_assert(std::is_abstract_v<Arb>);
 using Chain = CompositeTrans<DPoint>;
 using Pointer = ZHashablePointer<Arb>;
 
@@ -56,12 +59,15 @@ TEST(Chains, MapForwardInOrderAndBackInReverse) {
 TEST(Chains, DeleteWhatTheyOwn) {
     Step kept(2, 0);
     {
-        Chain owner(1), guest;
+        Chain owner(1), guest, heir;
         owner.addTrans(new Step(1, 1));
         owner.addTrans(nullptr);
         owner.addTrans(new ReverseTrans<DPoint>(new Step(1, 1), 2));
         guest.addTrans(&kept);
-        const Chain copy(guest);
+        Chain copy(guest);
+        EXPECT_TRUE(at(copy.transform(DPoint(5, 6)), 10, 6));
+        heir = owner;
+        owner = Chain(0); // owns nothing any more
         ReverseTrans<DPoint> none(nullptr, 1), loose(&kept, 0);
         EXPECT_TRUE(at(none.transform(DPoint(5, 6)), 5, 6));
         EXPECT_TRUE(at(none.reverseTransform(DPoint(5, 6)), 5, 6));

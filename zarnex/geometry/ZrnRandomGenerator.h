@@ -4,8 +4,8 @@
 
 /// A small generator of random numbers: x becomes 515 * x mod 524288.
 ///
-/// The same sequence on every machine and in every run. It repeats after 131072 numbers,
-/// all odd multiples of 1 / 524288: for jitter, not for statistics.
+/// The same sequence on every machine and in every run. It repeats after 131072 numbers, the
+/// multiples of 1 / 524288 by 1 or 3 modulo 8: for jitter, not for statistics.
 ///
 /// One object belongs to one thread at a time, even a const one.
 class ZARNEX_API ZrnRandomGenerator {
@@ -18,7 +18,7 @@ public:
     ZrnRandomGenerator& operator=(const ZrnRandomGenerator&) = default;
     ~ZrnRandomGenerator();
 
-    /// The next number, from 1 / 524288 to 524287 / 524288.
+    /// The next number, from 1 / 524288 to 524283 / 524288.
     ///
     /// Kept as is: const, but steps the generator; a const generator still gives another
     /// number at each call.

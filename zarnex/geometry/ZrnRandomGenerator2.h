@@ -8,7 +8,7 @@
 /// cryptography. One object belongs to one thread at a time.
 ///
 ///     ZrnRandomGenerator2 generator(4357);
-///     generator.random(); // 0.8173183...
+///     generator.random(); // 0.8173300...
 ///
 /// Kept as is: the seeding is a plain chain of products by 69069, so that std::mt19937 gives
 /// other numbers for the same seed, and a seed of 0 gives 0 for ever.

@@ -21,9 +21,11 @@ ZARNEX_API int computeCentre(DPoint* centre, const DPoint& p1, const DPoint& p2,
 /// The same by elimination with partial pivoting.
 ///
 /// Refused are two points equal within 1e-9 in both coordinates, and a pivot of at most
-/// 1e-9, with which points on one line end.
+/// 1e-9.
 ///
 /// Kept as is: nearly straight points that computeCentre refuses have a centre here,
-/// far away: (0, 0), (100, 0), (200, 1) have one at (50, 10000.5).
+/// far away: (0, 0), (100, 0), (200, 1) have one at (50, 10000.5). Points on one line end
+/// with a pivot of 0, unless rounding lifts the pivot above 1e-9, as it may for coordinates
+/// from about 1e7.
 ZARNEX_API int LUcomputeCentre(DPoint* centre, const DPoint& p1, const DPoint& p2,
                                const DPoint& p3);

@@ -10,7 +10,7 @@
 ///
 /// Three roots come in falling order, but for rounding; two are the single root, then the
 /// double one; a triple root comes once. Where `a` counts as zero, the roots are those of
-/// ZQuadraticSolver, in its order.
+/// ZQuadraticSolver, in its order; where `b` does too, -d/c alone; where `c` does too, none.
 ///
 /// The last bits are those of cbrt, acos and cos in the platform's mathematical library.
 ///

@@ -33,7 +33,8 @@ public:
     /// An |a| below `zeroTol` counts as zero; then so does a |b| below it, and without either
     /// there is no root. `discTol`, whose sign is ignored, bounds (b/a)^2 - 4c/a: from
     /// -discTol on, up to but not including discTol, there is one root, a double one; below
-    /// there is none.
+    /// there is none. With a `zeroTol` of 0 or below nothing counts as zero: an `a` of 0 is
+    /// divided by, which gives two roots, infinite or NaN.
     ///
     /// The root without cancellation comes first, the greater one in size; the second is c/a
     /// over the first.

@@ -31,8 +31,8 @@ public:
 
     ~CompositeTrans() override;
 
-    /// Appends `member`. Null is skipped in mapping; nothing for the chain itself, of
-    /// which it must not contain others either.
+    /// Appends `member`. Null is skipped in mapping. Nothing for the chain itself; a member
+    /// must not contain this chain either.
     void addTrans(ArbTrans<P>* member);
 
     P transform(const P& p) override;

@@ -46,13 +46,16 @@ constexpr Pair mapped(const Elements& m, Pair p) {
 ///     if (m.invert() != 0)
 ///         return;                         // singular
 ///
-/// Operations that take a ZMatrix are those of ZMatrix, and a call through a
-/// ZMatrix& reaches them; those that take a Z2DMatrix are this class's own.
+/// Except for solve(), operations that take a ZMatrix are those of ZMatrix, and a call
+/// through a ZMatrix& reaches them; those that take a Z2DMatrix are this class's own.
 ///
-/// Kept as is: assigning a ZMatrix of another shape gives the object that shape. Until it
-/// has two rows and columns again it behaves as a ZMatrix where ZMatrix has the operation
-/// and otherwise does nothing: a status is 1, a determinant 0.0, and points are not
-/// moved. The same goes for an object whose storage could not be had, 0 x 0.
+/// Kept as is: assigning a ZMatrix of another shape gives the object that shape, although
+/// construction from one makes the identity.
+///
+/// An object of another shape, be it 0 x 0 because its storage could not be had, behaves as
+/// a ZMatrix where ZMatrix has the operation. Otherwise, and inverted into a Z2DMatrix, it
+/// does nothing until it has two rows and columns again: a status is 1, a determinant 0.0,
+/// and points are not moved.
 template <class T>
 class Z2DMatrix : public ZMatrix<T> {
 public:
@@ -77,7 +80,8 @@ public:
     /// Inverts in place; status 2, with nothing changed, if |det()| <= 1e-9.
     int invert();
 
-    /// Writes the inverse to `out`, which is left alone if this matrix is singular.
+    /// Writes the inverse to `out`, which is left alone if this matrix is singular. Status 1
+    /// if either has another shape than 2 x 2, in place or not.
     int invert(Z2DMatrix& out) const;
 
     /// Kept as is: ZMatrix::invert(), which writes nothing, although the other two
@@ -88,9 +92,10 @@ public:
     /// (1, 2, 4, 3). Returns 0.
     int transpose();
 
-    /// Writes the transpose (m00, m10, m01, m11) to `out`.
+    /// Writes the transpose (m00, m10, m01, m11) to `out`. If either has another shape than
+    /// 2 x 2 this is ZMatrix::transpose(), in place or not.
     ///
-    /// Kept as is: into the matrix itself this is transpose().
+    /// Kept as is: a 2 x 2 matrix into itself is left as by transpose().
     int transpose(Z2DMatrix& out) const;
 
     /// Kept as is: ZMatrix::transpose(), which turns (1, 2, 3, 4) in place into
@@ -108,7 +113,8 @@ public:
     int multiply(const ZMatrix<T>& b, ZMatrix<T>& out) const override;
     int multiply(const ZMatrix<T>& b, Z2DMatrix& out) const; // else ambiguous
 
-    /// This matrix times `b`: as a map, `b` acts first.
+    /// This matrix times `b`: as a map, `b` acts first. A ZMatrix is taken as
+    /// Z2DMatrix(const ZMatrix&) takes it: another shape is the identity.
     ///
     /// Kept as is: multiplies on the right, although the operations of Z2DTrans act on
     /// the left.
@@ -220,10 +226,10 @@ ZARNEX_TEMPLATE_INLINE int Z2DMatrix<T>::invert() {
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE int Z2DMatrix<T>::invert(Z2DMatrix& out) const {
+    if (!isWhole() || !out.isWhole())
+        return 1;
     if (&out == this)
         return out.invert();
-    if (!isWhole() || !out.isWhole())
-        return ZMatrix<T>::invert(out);
     const T d = this->det();
     if (IS_ZERO(d))
         return 2;
@@ -247,10 +253,10 @@ ZARNEX_TEMPLATE_INLINE int Z2DMatrix<T>::transpose() {
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE int Z2DMatrix<T>::transpose(Z2DMatrix& out) const {
-    if (&out == this)
-        return out.transpose();
     if (!isWhole() || !out.isWhole())
         return ZMatrix<T>::transpose(out);
+    if (&out == this)
+        return out.transpose();
     const auto m = elements();
     out.setElements({m.m00, m.m10, m.m01, m.m11});
     return 0;

@@ -30,6 +30,11 @@ Z2DTrans::Z2DTrans(const DVector& a, const DVector& b) {
 
 Z2DTrans::~Z2DTrans() {}
 
+Z2DTrans& Z2DTrans::operator=(const ZMatrix<double>& other) {
+    Z2DMatrix<double>::operator=(other);
+    return *this;
+}
+
 Z2DTrans& Z2DTrans::rotate(double angle) {
     if (isWhole())
         setElements(turned(elements(), {std::cos(angle), std::sin(angle)}));

@@ -37,7 +37,7 @@ public:
     ~Z2DTrans() override;
 
     Z2DTrans& operator=(const Z2DTrans& other);
-    using Z2DMatrix<double>::operator=;
+    Z2DTrans& operator=(const ZMatrix<double>& other) override;
 
     /// Turns by `angle`, in radians.
     Z2DTrans& rotate(double angle);

@@ -99,7 +99,7 @@ protected:
 
     int cols_;
     int rows_;
-    T* data_; ///< row by row; null for 0 x 0
+    T* data_; ///< row by row; null if there is no storage
 
 private:
     /// Takes new storage, without freeing any before; 0 x 0 if there is none.

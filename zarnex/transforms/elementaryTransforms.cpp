@@ -40,6 +40,11 @@ Z2DRotate::~Z2DRotate() {}
 
 Z2DRotate& Z2DRotate::operator=(const Z2DRotate&) = default;
 
+Z2DRotate& Z2DRotate::operator=(const ZMatrix<double>& other) {
+    Z2DMatrix<double>::operator=(other);
+    return *this;
+}
+
 Z2DXScale::Z2DXScale() {}
 
 Z2DXScale::Z2DXScale(const Z2DXScale&) = default;
@@ -49,6 +54,11 @@ Z2DXScale::Z2DXScale(double s) : Z2DTrans(DVector(s, 0.0), DVector(0.0, 1.0)) {}
 Z2DXScale::~Z2DXScale() {}
 
 Z2DXScale& Z2DXScale::operator=(const Z2DXScale&) = default;
+
+Z2DXScale& Z2DXScale::operator=(const ZMatrix<double>& other) {
+    Z2DMatrix<double>::operator=(other);
+    return *this;
+}
 
 Z2DYScale::Z2DYScale() {}
 
@@ -60,6 +70,11 @@ Z2DYScale::~Z2DYScale() {}
 
 Z2DYScale& Z2DYScale::operator=(const Z2DYScale&) = default;
 
+Z2DYScale& Z2DYScale::operator=(const ZMatrix<double>& other) {
+    Z2DMatrix<double>::operator=(other);
+    return *this;
+}
+
 Z2DXShear::Z2DXShear() {}
 
 Z2DXShear::Z2DXShear(const Z2DXShear&) = default;
@@ -70,6 +85,11 @@ Z2DXShear::~Z2DXShear() {}
 
 Z2DXShear& Z2DXShear::operator=(const Z2DXShear&) = default;
 
+Z2DXShear& Z2DXShear::operator=(const ZMatrix<double>& other) {
+    Z2DMatrix<double>::operator=(other);
+    return *this;
+}
+
 Z2DYShear::Z2DYShear() {}
 
 Z2DYShear::Z2DYShear(const Z2DYShear&) = default;
@@ -79,3 +99,8 @@ Z2DYShear::Z2DYShear(double k) : Z2DTrans(DVector(1.0, 0.0), DVector(k, 1.0)) {}
 Z2DYShear::~Z2DYShear() {}
 
 Z2DYShear& Z2DYShear::operator=(const Z2DYShear&) = default;
+
+Z2DYShear& Z2DYShear::operator=(const ZMatrix<double>& other) {
+    Z2DMatrix<double>::operator=(other);
+    return *this;
+}

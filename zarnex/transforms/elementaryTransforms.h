@@ -33,7 +33,7 @@ public:
     ~Z2DRotate() override;
 
     Z2DRotate& operator=(const Z2DRotate& other);
-    using Z2DTrans::operator=;
+    Z2DRotate& operator=(const ZMatrix<double>& other) override;
 };
 
 /// x times a factor: (s, 0, 0, 1).
@@ -46,7 +46,7 @@ public:
     ~Z2DXScale() override;
 
     Z2DXScale& operator=(const Z2DXScale& other);
-    using Z2DTrans::operator=;
+    Z2DXScale& operator=(const ZMatrix<double>& other) override;
 };
 
 /// y times a factor: (1, 0, 0, s).
@@ -59,7 +59,7 @@ public:
     ~Z2DYScale() override;
 
     Z2DYScale& operator=(const Z2DYScale& other);
-    using Z2DTrans::operator=;
+    Z2DYScale& operator=(const ZMatrix<double>& other) override;
 };
 
 /// x and `k` times y: (1, k, 0, 1).
@@ -72,7 +72,7 @@ public:
     ~Z2DXShear() override;
 
     Z2DXShear& operator=(const Z2DXShear& other);
-    using Z2DTrans::operator=;
+    Z2DXShear& operator=(const ZMatrix<double>& other) override;
 };
 
 /// y and `k` times x: (1, 0, k, 1).
@@ -85,5 +85,5 @@ public:
     ~Z2DYShear() override;
 
     Z2DYShear& operator=(const Z2DYShear& other);
-    using Z2DTrans::operator=;
+    Z2DYShear& operator=(const ZMatrix<double>& other) override;
 };
