@@ -81,7 +81,7 @@ public:
     /// rounded with halves away from zero (see zarnex::roundHalfAway).
     DPoint& roundScale(double sx, double sy);
 
-    /// Turns the point by `degrees` about `centre`.
+    /// Turns the point by `degrees` about `centre`. Z2DTrans::rotate() takes radians.
     ///
     /// Kept as is: pi is 3.1415926 here, so that a quarter turn of (1, 0) about the
     /// origin ends at x = 2.7e-8; angle() has 3.141592654.

@@ -8,8 +8,12 @@
 /// Writes the centre of the circle through `p1`, `p2` and `p3` and returns 0, or returns -1
 /// and leaves `centre` as it is if the points are too close to each other or to one line.
 ///
+///     DPoint centre;
+///     if (computeCentre(&centre, a, b, c) == 0)
+///         radius = centre.distance(a);
+///
 /// Refused are two points equal within 1e-7 in both coordinates, an angle at `p1` with a
-/// sine below 0.01, and a determinant, four times the area of the parallelogram of the
+/// sine below 0.01 (so the order counts: of a flat arc, pass the middle point first), and a determinant, four times the area of the parallelogram of the
 /// points, of at most 1e-9. A null `centre` is not written. Coordinates that are NaN or
 /// overflow when squared may give a centre of NaN or infinities, with 0.
 ///

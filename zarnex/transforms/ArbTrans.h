@@ -5,8 +5,9 @@
 
 /// A map of points with a way back, to derive from; for DPoint.
 ///
-/// Derived classes make both operations; the bodies that stand here return the point
-/// unchanged.
+/// Derived classes make both operations, which may change the object: pass transforms by
+/// pointers and references that are not const. The bodies that stand here return the point
+/// unchanged. The library has this family for DPoint alone.
 template <class P>
 class ArbTrans {
 public:

@@ -12,6 +12,9 @@
 ///     chain.transform(p);             // b.transform(a.transform(p))
 ///     chain.reverseTransform(q);      // the way back, from b to a
 ///
+///     CompositeTrans<DPoint> owner(1);
+///     owner.addTrans(new Shift(3, 4)); // the host's own transform; deleted with the chain
+///
 /// An empty chain is the identity. Mapping is linear in the number of members.
 template <class P>
 class CompositeTrans : public ArbTrans<P> {
@@ -31,8 +34,9 @@ public:
 
     ~CompositeTrans() override;
 
-    /// Appends `member`. Null is skipped in mapping. Nothing for the chain itself; a member
-    /// must not contain this chain either.
+    /// Appends `member`, which an owning chain owns from here on. Null is kept and skipped.
+    /// Nothing for the chain itself; a member must not contain this chain either: mapping
+    /// would not end.
     void addTrans(ArbTrans<P>* member);
 
     P transform(const P& p) override;

@@ -21,6 +21,10 @@
 ///     t.rotate(std::acos(-1.0) / 2.0).xScale(2.0);    // turns, then stretches
 ///     t * DPoint(0.0, 1.0);                           // about (-2, 0)
 ///
+///     a.compose(b);                                   // a, and then b
+///     t.invert(back);                                 // the way back; 2 if there is none
+///     centre + t * (p - centre)                       // about another point
+///
 /// Every operation acts after those before it, on the left of the matrix, and returns
 /// the transform. Angles turn counter-clockwise with y growing upward. Overflow and NaN
 /// follow IEEE arithmetic. A transform that was given another shape (see Z2DMatrix) is
@@ -39,7 +43,7 @@ public:
     Z2DTrans& operator=(const Z2DTrans& other);
     Z2DTrans& operator=(const ZMatrix<double>& other) override;
 
-    /// Turns by `angle`, in radians.
+    /// Turns by `angle` in radians, unlike DPoint::rotate().
     Z2DTrans& rotate(double angle);
 
     /// Turns by `degrees`.
