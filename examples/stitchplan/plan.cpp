@@ -85,7 +85,8 @@ Plan planStitches(Motif motif, const std::function<void(int)>& progress) {
             plan.rows += rows;
         }
     } catch (const TooManyNeedles& error) {
-        const int line = plan.motif.spacingLine > 0 ? plan.motif.spacingLine : plan.motif.stitchLine;
+        const int line =
+            plan.motif.spacingLine > 0 ? plan.motif.spacingLine : plan.motif.stitchLine;
         throw MotifError(line, error.what());
     }
     plan.extent = extentOf(plan.path);

@@ -13,9 +13,10 @@
 ///         radius = centre.distance(a);
 ///
 /// Refused are two points equal within 1e-7 in both coordinates, an angle at `p1` with a
-/// sine below 0.01 (so the order counts: of a flat arc, pass the middle point first), and a determinant, four times the area of the parallelogram of the
-/// points, of at most 1e-9. A null `centre` is not written. Coordinates that are NaN or
-/// overflow when squared may give a centre of NaN or infinities, with 0.
+/// sine below 0.01 (so the order counts: of a flat arc, pass the middle point first), and a
+/// determinant, four times the area of the parallelogram of the points, of at most 1e-9. A null
+/// `centre` is not written. Coordinates that are NaN or overflow when squared may give a centre of
+/// NaN or infinities, with 0.
 ///
 /// Kept as is: the sine is that of the steps from `p1` after DVector::normalize(), which
 /// leaves steps up to 3.16e-6 as short as they are: such a step is refused whatever its

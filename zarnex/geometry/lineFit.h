@@ -11,7 +11,8 @@
 /// Fits a line to `pts` by the least squares of the distances from it, and gives its normal
 /// (a, b), of any length, and `c`; 0 then. -1 for an empty list, with all three left alone.
 ///
-/// Linear in the number of points; a ZList makes a list by its begin() and end(). Points that coincide have a normal of 0 but for rounding.
+/// Linear in the number of points; a ZList makes a list by its begin() and end(). Points that
+/// coincide have a normal of 0 but for rounding.
 ///
 /// Kept as is: so have points on one vertical line, although every other line has a normal.
 ///
