@@ -2,6 +2,7 @@
 # What the shared library exports.
 #
 #   exports.sh list LIBRARY              prints the exported names, one a line
+#   exports.sh names LIBRARY             the same as the compiler writes them, none left out
 #   exports.sh compare LIBRARY EXPECTED  fails unless they are those in EXPECTED
 #   exports.sh internal LIBRARY          fails if names of the inside are exported
 #   exports.sh imports LIBRARY           fails if a DLL needs more than the system's DLLs
@@ -44,11 +45,15 @@ mangled() {
     sort -u <<<"$names"
 }
 
-list() {
+names() {
     local names
     names=$(mangled "$1" | grep -vE '^_Z(T|GV|GR|Z)')
     names=$("${CXXFILT:?c++filt is needed}" <<<"$names")
-    sort -u <<<"$names" | sed 's/long long/long/g' | sort | fold_instantiations | sort
+    sort -u <<<"$names"
+}
+
+list() {
+    names "$1" | sed 's/long long/long/g' | sort | fold_instantiations | sort
 }
 
 fold_instantiations() {
@@ -136,6 +141,6 @@ imports() {
 
 [[ -f ${2-} ]] || fail "No such library: ${2-}"
 case $1 in
-list | compare | internal | imports) "$@" ;;
+list | names | compare | internal | imports) "$@" ;;
 *) fail "Unknown request: $1" ;;
 esac
