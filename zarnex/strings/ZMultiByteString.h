@@ -91,7 +91,7 @@ public:
     }
     template <class Index, std::enable_if_t<std::is_integral_v<Index>, int> = 0>
     const char& operator[](Index i) const {
-        return (*this)[static_cast<int>(i)];
+        return array_.get(static_cast<int>(i));
     }
 
     operator const char*() const;

@@ -98,7 +98,7 @@ public:
     }
     template <class Index, std::enable_if_t<std::is_integral_v<Index>, int> = 0>
     const wchar_t& operator[](Index i) const {
-        return (*this)[static_cast<int>(i)];
+        return array_.get(static_cast<int>(i));
     }
 
     operator const wchar_t*() const;

@@ -54,7 +54,7 @@ public:
     /// |h| times 0.61254233 in single precision, truncated.
     ///
     /// Kept as is: the size is ignored, although HashFunction1 and 2 reduce by it. Results
-    /// go up to 1315424512 and, for h = -2^31 as there, down to -1315424512.
+    /// go up to 1315424640; h = -2^31 alone gives a negative one, -1315424640.
     long operator()(const ZString& text) const;
 
 private:
@@ -90,26 +90,6 @@ public:
     long operator()(const ZHashInt& key) const;
 };
 
-// Comparison with plain integers, by value: without these it would be ambiguous.
-
-template <class Integer, std::enable_if_t<std::is_integral_v<Integer>, int> = 0>
-int operator==(const ZHashInt& a, Integer b) {
-    return static_cast<long long>(a.getInt()) == static_cast<long long>(b);
-}
-template <class Integer, std::enable_if_t<std::is_integral_v<Integer>, int> = 0>
-int operator==(Integer a, const ZHashInt& b) {
-    return b == a;
-}
-
-template <class Integer, std::enable_if_t<std::is_integral_v<Integer>, int> = 0>
-int operator!=(const ZHashInt& a, Integer b) {
-    return !(a == b);
-}
-template <class Integer, std::enable_if_t<std::is_integral_v<Integer>, int> = 0>
-int operator!=(Integer a, const ZHashInt& b) {
-    return !(b == a);
-}
-
 ZARNEX_INLINE int ZHashInt::operator==(const ZHashInt& other) const {
     return value_ == other.value_;
 }
@@ -132,4 +112,24 @@ ZARNEX_INLINE int ZHashInt::hash() const {
 
 ZARNEX_INLINE long IntHashFunction::operator()(const ZHashInt& key) const {
     return key.hash();
+}
+
+// Comparison with plain integers, by value: without these it would be ambiguous.
+
+template <class Integer, std::enable_if_t<std::is_integral_v<Integer>, int> = 0>
+int operator==(const ZHashInt& a, Integer b) {
+    return static_cast<long long>(a.getInt()) == static_cast<long long>(b);
+}
+template <class Integer, std::enable_if_t<std::is_integral_v<Integer>, int> = 0>
+int operator==(Integer a, const ZHashInt& b) {
+    return b == a;
+}
+
+template <class Integer, std::enable_if_t<std::is_integral_v<Integer>, int> = 0>
+int operator!=(const ZHashInt& a, Integer b) {
+    return !(a == b);
+}
+template <class Integer, std::enable_if_t<std::is_integral_v<Integer>, int> = 0>
+int operator!=(Integer a, const ZHashInt& b) {
+    return !(b == a);
 }
