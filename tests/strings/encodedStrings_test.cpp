@@ -212,7 +212,10 @@ TEST(EncodedComparison, DiffersByClass) {
     }
     EXPECT_EQ((relations<ZMultiByteString>("\xC9", "\xE9")), " != < <=") << "A to Z alone fold";
     EXPECT_EQ((relations<ZMultiByteString>("z", "\x80")), " != < <=") << "bytes are not signed";
-    EXPECT_TRUE(ZWideString(L"a") == ZWideString(ZString(L"a")) && ZMultiByteString() == nullptr);
+    ZString letter(L"a");
+    ZWideString joined = letter;
+    joined += letter;
+    EXPECT_TRUE(joined == L"aa" && ZMultiByteString() == nullptr);
     char buffer[] = "a"; // not const: no address may be compared
     ZMultiByteString string("A");
     EXPECT_TRUE(string != buffer && buffer != string && string <= buffer && buffer >= string);
@@ -296,6 +299,28 @@ TEST(ZGenericString, MakesTheOtherFormOnce) {
     ZGenericString nothing(static_cast<const char*>(nullptr));
     text = nothing;
     EXPECT_EQ(wide(text), L"");
+}
+
+// Reaches the private assignment, as an explicit instantiation may.
+ZGenericString& assign(ZGenericString& a, ZGenericString& b);
+
+template <auto assignment>
+struct Reached {
+    friend ZGenericString& assign(ZGenericString& a, ZGenericString& b) {
+        return (a.*assignment)(b);
+    }
+};
+template struct Reached < &ZGenericString::operator=>;
+
+TEST(ZGenericString, AssignmentTakesTheFormsThatTheSourceHolds) {
+    ZGenericString target("both");
+    EXPECT_STREQ(static_cast<wchar_t*>(target), L"both");
+    ZGenericString source(L"wide");
+    assign(target, source);
+    EXPECT_STREQ(formsOf(target).first, L"wide");
+    EXPECT_NE(formsOf(target).first, formsOf(source).first);
+    EXPECT_EQ(formsOf(target).second, nullptr);
+    EXPECT_STREQ(formsOf(assign(target, target)).first, L"wide");
 }
 
 // Frees the forms as a derived class of a host may.

@@ -119,6 +119,7 @@ public:
 
     ZWideString& operator+=(const ZWideString& text);
     ZWideString& operator+=(const wchar_t* text);
+    ZWideString& operator+=(const ZString& text);
 
     /// Sets the slots in use to `n` + 1 and terminates the last; negative is 0. Cuts
     /// the text, or leaves it as it is when it is shorter.

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstring>
 #include <cwchar>
+#include <optional>
 
 #include <iconv.h>
 
@@ -77,11 +78,12 @@ private:
 
 class Descriptor {
 public:
-    static Descriptor toWide(unsigned int codePage) {
-        return Descriptor("WCHAR_T", Name(codePage).text);
-    }
-    static Descriptor fromWide(unsigned int codePage) {
-        return Descriptor(Name(codePage).text, "WCHAR_T");
+    enum Direction { toWide, fromWide };
+
+    Descriptor(Direction direction, unsigned int codePage) {
+        char name[16];
+        std::snprintf(name, sizeof name, "CP%u", codePage);
+        handle_ = direction == toWide ? iconv_open("WCHAR_T", name) : iconv_open(name, "WCHAR_T");
     }
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
@@ -130,14 +132,6 @@ public:
     }
 
 private:
-    struct Name {
-        explicit Name(unsigned int codePage) {
-            std::snprintf(text, sizeof text, "CP%u", codePage);
-        }
-        char text[16];
-    };
-    Descriptor(const char* to, const char* from) : handle_(iconv_open(to, from)) {}
-
     iconv_t handle_;
 };
 
@@ -166,7 +160,7 @@ int convertAll(Descriptor& descriptor, const void* input, std::size_t size, Outp
 int codePageToWide(unsigned int codePage, const char* text, int count, wchar_t* out, int room) {
     if (text == nullptr || count == 0 || room < 0 || (room > 0 && out == nullptr))
         return 0;
-    Descriptor descriptor = Descriptor::toWide(codePage);
+    Descriptor descriptor(Descriptor::toWide, codePage);
     if (!descriptor.isOpen())
         return 0;
     Output<wchar_t> output(out, room);
@@ -185,7 +179,8 @@ int codePageToWide(unsigned int codePage, const char* text, int count, wchar_t* 
 int wideToCodePage(unsigned int codePage, const wchar_t* text, int count, char* out, int room) {
     if (text == nullptr || count == 0 || room < 0 || (room > 0 && out == nullptr))
         return 0;
-    Descriptor descriptor = Descriptor::fromWide(codePage);
+    Descriptor descriptor(Descriptor::fromWide, codePage);
+    std::optional<Descriptor> back; // opened when first needed
     if (!descriptor.isOpen())
         return 0;
     Output<char> output(out, room);
@@ -195,9 +190,10 @@ int wideToCodePage(unsigned int codePage, const wchar_t* text, int count, char* 
         next += sizeof unit;
         left -= sizeof unit;
         if (isControl(static_cast<unsigned long>(unit))) {
-            Descriptor back = Descriptor::toWide(codePage);
+            if (!back)
+                back.emplace(Descriptor::toWide, codePage);
             const auto byte = static_cast<char>(unit);
-            if (back.isOpen() && back.tryByte(byte) == EILSEQ)
+            if (back->isOpen() && back->tryByte(byte) == EILSEQ)
                 return output.put(byte);
         }
         // By iconv, for a code page that has its own place for it.

@@ -198,14 +198,15 @@ void setFormatted(ZXArray<Char>& array, const Char* format, std::va_list argumen
 
 // ---- From the other type. What cannot be converted is the empty text.
 
-/// Converts `text` into as many slots as the conversion asks for.
+/// Converts `text` into as many slots as the conversion asks for. An array with storage
+/// keeps what it grew to, for the next text.
 template <class Out, class In>
 void assignConverted(ZXArray<Out>& array, const In* text, unsigned int codePage) {
     text = textOrEmpty(text);
-    const int allocated = array.allocLength();
+    const bool isNew = array.allocLength() == 0;
     int size = 0;
     if constexpr (sizeof(Out) > sizeof(In)) {
-        // Hardly ever more units than bytes: converted at once, and cut to size below.
+        // Hardly ever more units than bytes: converted at once, a new array cut to size.
         const std::size_t most = textLength(text) + 1;
         if (most < INT_MAX) {
             array.reserve(static_cast<long long>(most));
@@ -217,7 +218,7 @@ void assignConverted(ZXArray<Out>& array, const In* text, unsigned int codePage)
         array.reserve((std::max)(needed, 1));
         size = needed == 0 ? 0 : convertUnits(codePage, text, -1, static_cast<Out*>(array), needed);
     }
-    if (array.allocLength() != allocated)
+    if (isNew)
         resizeText(array, size - 1);
     else
         truncateText(array, size - 1);
