@@ -47,7 +47,12 @@
 #include <zarnex/runtime/exiting.h>
 #include <zarnex/strings/FontUtils.h>
 #include <zarnex/strings/StringUtils.h>
+#include <zarnex/strings/ZGenericString.h>
+#include <zarnex/strings/ZMultiByteString.h>
 #include <zarnex/strings/ZString.h>
+#include <zarnex/strings/ZWideString.h>
+#include <zarnex/strings/conversions.h>
+#include <zarnex/strings/hashFunctions.h>
 #include <zarnex/transforms/ArbTrans.h>
 #include <zarnex/transforms/CompositeTrans.h>
 #include <zarnex/transforms/IdTrans.h>

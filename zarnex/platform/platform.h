@@ -23,12 +23,13 @@ inline constexpr unsigned int utf8CodePage = 65001;
 /// wide text.
 ///
 /// Returns the wide units written, or with `room` 0 the number needed. Returns
-/// 0 on failure: too little room, an unknown code page, a count of 0. Ill-formed
-/// input becomes U+FFFD.
+/// 0 on failure: too little room (as much as fits is written then), an unknown code
+/// page, a count of 0, null. Ill-formed UTF-8 becomes U+FFFD, by one rule on both
+/// platforms; other code pages have replacements of their own.
 int bytesToWide(unsigned int codePage, const char* text, int count, wchar_t* out, int room);
 
 /// The mirror image of bytesToWide. A unit that the code page cannot hold
-/// becomes the code page's replacement.
+/// becomes the code page's replacement, mostly '?', in UTF-8 U+FFFD.
 int wideToBytes(unsigned int codePage, const wchar_t* text, int count, char* out, int room);
 
 /// The number of bytes of the character of the system code page that starts at

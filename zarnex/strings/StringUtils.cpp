@@ -1,6 +1,6 @@
 #include <zarnex/strings/StringUtils.h>
 
-#include <zarnex/platform/platform.h>
+#include <zarnex/strings/internal/convert.h>
 #include <zarnex/strings/internal/text.h>
 
 #include <climits>
@@ -11,14 +11,10 @@ using zarnex::detail::textLength;
 
 namespace {
 
-// The conversions of the platform behind one name, in the system code page.
-// All return 0 on failure.
-int convert(const char* text, wchar_t* out, int room) {
-    return zarnex::platform::bytesToWide(zarnex::platform::ansiCodePage, text, -1, out, room);
-}
-
-int convert(const wchar_t* text, char* out, int room) {
-    return zarnex::platform::wideToBytes(zarnex::platform::ansiCodePage, text, -1, out, room);
+// In the system code page, 0 on failure.
+template <class Out, class Char>
+int convert(const Char* text, Out* out, int room) {
+    return zarnex::detail::convertUnits(zarnex::platform::ansiCodePage, text, -1, out, room);
 }
 
 template <class Char>

@@ -2,11 +2,11 @@
 
 #include <zarnex/runtime/exiting.h>
 #include <zarnex/strings/StringUtils.h>
+#include <zarnex/strings/ZGenericString.h>
 #include <zarnex/strings/internal/caseless.h>
-#include <zarnex/strings/internal/text.h>
+#include <zarnex/strings/internal/textArray.h>
 
 #include <charconv>
-#include <functional>
 #include <new>
 #include <ostream>
 
@@ -14,80 +14,42 @@ using namespace zarnex::detail;
 
 namespace {
 
-constexpr int growthStep = 32;
-
 int toInt(std::size_t size) {
     return static_cast<int>(size); // the error size becomes -1
-}
-
-std::size_t notNegative(int n) {
-    return static_cast<std::size_t>((std::max)(n, 0));
 }
 
 } // namespace
 
 // ---- The buffer
 
-// Without storage (a string that was moved from) the text is empty.
 const wchar_t* ZString::text() const {
-    return textOrEmpty(static_cast<const wchar_t*>(array_));
+    return textOf(array_);
 }
 
 std::size_t ZString::measure() const {
     return textLength(text());
 }
 
-void ZString::setUsed(std::size_t slots) {
-    array_.reserve(static_cast<long long>(slots));
-    array_.setSize(static_cast<int>(slots));
-}
-
-// Both of these move the text before the slots in use shrink: it may lie inside
-// the buffer, and slots that are given up are cleared.
-void ZString::assign(const wchar_t* text, std::size_t count) {
-    array_.reserve(static_cast<long long>(count + 1));
-    copyUnits(static_cast<wchar_t*>(array_), text, count, count + 1);
-    setUsed(count + 1);
-}
-
-ZString& ZString::append(const wchar_t* text, std::size_t count) {
-    const std::size_t length = measure();
-    const wchar_t* const before = array_;
-    const std::less<const wchar_t*> isBefore;
-    const bool inside = !isBefore(text, before) && isBefore(text, before + array_.allocLength());
-    const std::ptrdiff_t offset = inside ? text - before : 0;
-    array_.reserve(static_cast<long long>(length + count + 1));
-    wchar_t* const buffer = array_;
-    copyUnits(buffer + length, inside ? buffer + offset : text, count, count + 1);
-    setUsed(length + count + 1);
-    return *this;
-}
-
 // ---- Construction and assignment
 
 ZString::ZString() {
     array_.setStep(growthStep);
-    assign(L"", 0);
+    truncateText(array_, 0);
 }
 
 ZString::ZString(int n, int step) : array_(toInt(notNegative(n) + 1), step) {
-    setUsed(notNegative(n) + 1); // done unless the allocation failed
+    setUsed(array_, notNegative(n) + 1); // done unless the allocation failed
     array_[0] = L'\0';
 }
 
 ZString::ZString(const wchar_t* text) {
     array_.setStep(growthStep);
-    text = textOrEmpty(text);
-    assign(text, textLength(text));
+    assignText(array_, text);
 }
 
 ZString::ZString(const wchar_t* text, int n) {
     array_.setStep(growthStep);
-    const std::size_t most = notNegative(n);
-    text = textOrEmpty(text);
-    assign(text, textLength(text, most));
-    setUsed(most + 1);
-    array_[toInt(most)] = L'\0';
+    assignPart(array_, text, n);
 }
 
 ZString::ZString(const char* text) {
@@ -97,14 +59,18 @@ ZString::ZString(const char* text) {
 
 ZString::ZString(const char* text, int n) {
     array_.setStep(growthStep);
-    const std::size_t slots = notNegative(n) + 1;
-    setUsed(slots);
-    StringUtils::copyString(static_cast<wchar_t*>(array_), textOrEmpty(text), slots);
+    assignConvertedPart(array_, text, notNegative(n) + 1);
 }
 
-ZString::ZString(const ZString& other) : array_(other.array_) {
-    if (array_.allocLength() < other.array_.allocLength())
-        zarnex::exitFatally("failed alloc\n", 1);
+ZString::ZString(ZGenericString& text) {
+    array_.setStep(growthStep);
+    *this = text;
+}
+
+ZString::ZString(ZXArray<wchar_t>&& array) : array_(std::move(array)) {}
+
+ZString::ZString(const ZString& other) {
+    copyArray(array_, other.array_);
 }
 
 ZString::ZString(ZString&& other) noexcept {
@@ -113,37 +79,27 @@ ZString::ZString(ZString&& other) noexcept {
 }
 
 ZString& ZString::operator=(const ZString& other) {
-    if (this != &other) {
-        const std::size_t slots = notNegative(other.array_.length());
-        const std::size_t length = other.measure();
-        setUsed((std::max)(slots, std::size_t{1}));
-        copyUnits(static_cast<wchar_t*>(array_), other.text(), length,
-                  static_cast<std::size_t>(array_.length()));
-    }
+    assignArray(array_, other.array_);
     return *this;
 }
 
 ZString& ZString::operator=(ZString&& other) noexcept {
-    const int step = array_.getStep();
-    const int otherStep = other.array_.getStep();
-    array_.swap(other.array_);
-    array_.setStep(step);
-    other.array_.setStep(otherStep);
+    swapText(array_, other.array_);
     return *this;
 }
 
 ZString& ZString::operator=(const wchar_t* text) {
-    text = textOrEmpty(text);
-    assign(text, textLength(text));
+    assignText(array_, text);
     return *this;
 }
 
 ZString& ZString::operator=(const char* text) {
-    text = textOrEmpty(text);
-    const std::size_t slots = textLength(text) + 1;
-    setUsed(slots);
-    StringUtils::copyString(static_cast<wchar_t*>(array_), text, slots);
+    assignConvertedPart(array_, text, textLength(textOrEmpty(text)) + 1);
     return *this;
+}
+
+ZString& ZString::operator=(ZGenericString& text) {
+    return *this = static_cast<const wchar_t*>(text);
 }
 
 ZString::~ZString() = default;
@@ -166,25 +122,12 @@ ZString::operator wchar_t*() {
     return array_;
 }
 
-// A negative index wrapped by the length, which may leave it negative.
-int ZString::wrapped(int i) const {
-    if (i >= 0)
-        return i;
-    const int size = length();
-    if (size == 0)
-        return i;
-    const int rest = i % size;
-    return rest < 0 ? rest + size : rest;
-}
-
 wchar_t& ZString::operator[](int i) {
-    if (array_.allocLength() == 0)
-        empty();
-    return array_.get(wrapped(i));
+    return elementOf(array_, wrappedIndex(i, i < 0 ? length() : 0));
 }
 
 const wchar_t& ZString::operator[](int i) const {
-    return array_.get(wrapped(i));
+    return array_.get(wrappedIndex(i, i < 0 ? length() : 0));
 }
 
 // ---- Sizes
@@ -220,11 +163,13 @@ int ZString::isEmpty() const {
 // ---- Concatenation
 
 ZString& ZString::operator+=(const ZString& text) {
-    return append(text.text(), text.measure());
+    appendText(array_, text.text(), text.measure());
+    return *this;
 }
 
 ZString& ZString::operator+=(const wchar_t* text) {
-    return text == nullptr ? *this : append(text, textLength(text));
+    appendText(array_, text);
+    return *this;
 }
 
 ZString& ZString::operator+=(wchar_t unit) {
@@ -257,12 +202,14 @@ struct Digits {
 
 ZString& ZString::appendNumber(long long number) {
     const Digits digits(number);
-    return append(digits.units, digits.count);
+    appendText(array_, digits.units, digits.count);
+    return *this;
 }
 
 ZString& ZString::appendNumber(unsigned long long number) {
     const Digits digits(number);
-    return append(digits.units, digits.count);
+    appendText(array_, digits.units, digits.count);
+    return *this;
 }
 
 ZString ZString::operator+(const ZString& text) const {

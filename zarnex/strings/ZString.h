@@ -9,6 +9,12 @@
 #include <type_traits>
 #include <utility>
 
+class ZGenericString;
+
+namespace zarnex::detail {
+struct TextAccess;
+}
+
 /// A wide-character string with value semantics: the text type of every
 /// interface of the library.
 ///
@@ -50,6 +56,9 @@ public:
     /// Converts from the system code page and cuts at `n` units, in `n` + 1 slots.
     ZString(const char* text, int n);
 
+    /// The wide form of `text`, which may have to make it.
+    ZString(ZGenericString& text);
+
     /// Copies the whole array: slots in use, allocation, step and contents.
     ZString(const ZString& other);
 
@@ -64,6 +73,7 @@ public:
     ZString& operator=(ZString&& other) noexcept;
     ZString& operator=(const wchar_t* text);
     ZString& operator=(const char* text);
+    ZString& operator=(ZGenericString& text);
 
     ~ZString();
 
@@ -304,14 +314,13 @@ public:
     void dump(std::ostream& out) const;
 
 private:
+    friend struct zarnex::detail::TextAccess;
+    explicit ZString(ZXArray<wchar_t>&& array);
+
     const wchar_t* text() const;
     std::size_t measure() const;
-    void setUsed(std::size_t slots);
-    void assign(const wchar_t* text, std::size_t count);
-    ZString& append(const wchar_t* text, std::size_t count);
     ZString& appendNumber(long long number);
     ZString& appendNumber(unsigned long long number);
-    int wrapped(int i) const;
 
     ZXArray<wchar_t> array_;
 };

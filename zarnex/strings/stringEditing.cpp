@@ -1,7 +1,6 @@
 #include <zarnex/strings/ZString.h>
 
-#include <zarnex/strings/internal/format.h>
-#include <zarnex/strings/internal/text.h>
+#include <zarnex/strings/internal/textArray.h>
 
 #include <cwctype>
 
@@ -32,7 +31,7 @@ void ZString::findAndReplace(const wchar_t* find, const wchar_t* replace) {
         done = found + skipped;
     }
     result.append(done, end);
-    assign(result.data(), result.length());
+    assignText(array_, result.data(), result.length());
 }
 
 ZString ZString::subString(int start, int count) {
@@ -40,19 +39,11 @@ ZString ZString::subString(int start, int count) {
 }
 
 ZString ZString::subString(int start, int count) const {
-    const int size = length();
-    if (count == 0 || size == 0)
-        return ZString();
-    start = wrapped(start);
-    const int available = size - start;
-    const int taken = count > 0 && count < available ? count : available;
-    return taken < 1 ? ZString() : ZString(text() + start, taken);
+    return subText<ZString>(array_, start, count);
 }
 
 void ZString::truncate(int n) {
-    n = (std::max)(n, 0);
-    setUsed(static_cast<std::size_t>(n) + 1);
-    array_[n] = L'\0';
+    truncateText(array_, n);
 }
 
 void ZString::resize(int n) {
@@ -60,9 +51,7 @@ void ZString::resize(int n) {
 }
 
 void ZString::resize() {
-    const int size = bufferSize();
-    array_.resize(size);
-    array_[size - 1] = L'\0'; // for a string that had no storage
+    resizeText(array_, length());
 }
 
 void ZString::empty() {
@@ -77,7 +66,7 @@ void ZString::trimLeft() {
     const wchar_t* first = text();
     while (isBlank(*first))
         ++first;
-    assign(first, textLength(first));
+    assignText(array_, first, textLength(first));
 }
 
 void ZString::trimRight() {
@@ -101,27 +90,8 @@ void ZString::toUpper() {
 }
 
 void ZString::set(const wchar_t* format, ...) {
-    if (format == nullptr)
-        return;
-    if (*format == L'\0') {
-        empty();
-        return;
-    }
-    // The text is made beside the string, whose buffer the arguments may be in.
-    TextBuffer<wchar_t> result;
-    const std::size_t formatLength = textLength(format);
     std::va_list arguments;
     va_start(arguments, format);
-    appendFormatted(result, format, arguments);
+    setFormatted(array_, format, arguments);
     va_end(arguments);
-
-    // The slots in use end up as if the room, at least twice the format's length,
-    // had been doubled until the text was strictly shorter.
-    std::size_t room = static_cast<std::size_t>((std::max)(array_.length() - 1, 0));
-    room = (std::max)(room, 2 * formatLength);
-    while (result.length() >= room)
-        room *= 2;
-    assign(result.data(), result.length());
-    setUsed(room + 1);
-    array_[static_cast<int>(room)] = L'\0';
 }

@@ -1,7 +1,7 @@
 #include <zarnex/strings/ZString.h>
 
 #include <zarnex/strings/internal/caseless.h>
-#include <zarnex/strings/internal/text.h>
+#include <zarnex/strings/internal/textArray.h>
 
 using namespace zarnex::detail;
 
@@ -29,7 +29,7 @@ int ZString::findString(const wchar_t* wanted, int start, int ignoreCase) const 
         return size;
     if (size == 0)
         return -1;
-    start = wrapped(start);
+    start = wrappedIndex(start, size);
     if (start > size)
         return -1;
     const wchar_t* const begin = text();
@@ -63,10 +63,5 @@ int ZString::findOneOfByUnicode(const wchar_t* set, int start, int invert) const
 }
 
 int ZString::startsWith(const wchar_t* prefix, int ignoreCase) const {
-    if (prefix == nullptr)
-        return 0;
-    const std::size_t count = textLength(prefix);
-    if (ignoreCase != 0)
-        return caselessOrder(text(), prefix, count) == 0;
-    return std::wcsncmp(text(), prefix, count) == 0;
+    return zarnex::detail::startsWith(text(), prefix, ignoreCase);
 }

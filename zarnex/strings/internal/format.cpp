@@ -1,6 +1,7 @@
 #include <zarnex/strings/internal/format.h>
 
 #include <zarnex/platform/platform.h>
+#include <zarnex/strings/internal/convert.h>
 #include <zarnex/strings/internal/numberText.h>
 #include <zarnex/strings/internal/text.h>
 
@@ -179,15 +180,6 @@ std::size_t mostUnits(const NumberLayout& layout) {
                                 : static_cast<std::size_t>(layout.precision);
 }
 
-// How a conversion from `count` units of the other type begins; 0 units for none.
-int convertUnits(const char* text, int count, wchar_t* out, int room) {
-    return platform::bytesToWide(platform::ansiCodePage, text, count, out, room);
-}
-
-int convertUnits(const wchar_t* text, int count, char* out, int room) {
-    return platform::wideToBytes(platform::ansiCodePage, text, count, out, room);
-}
-
 int unitsOfCharacter(const char* text) {
     return platform::characterBytes(text);
 }
@@ -214,7 +206,7 @@ void appendText(TextBuffer<Char>& out, const Other* text, const NumberLayout& la
     while (converted.length() < most && *text != Other{}) {
         const int units = unitsOfCharacter(text);
         Char character[8];
-        const int size = convertUnits(text, units, character, 8);
+        const int size = convertUnits(platform::ansiCodePage, text, units, character, 8);
         if (converted.length() + static_cast<std::size_t>(size) > most)
             break;
         converted.append(character, character + size);

@@ -1,0 +1,340 @@
+#include "tests/support.h"
+
+#include <zarnex/strings/StringUtils.h>
+#include <zarnex/strings/ZGenericString.h>
+#include <zarnex/strings/conversions.h>
+
+#include <climits>
+#include <cstring>
+#include <string>
+#include <utility>
+
+namespace {
+
+// The same claims for both classes, with texts of their own unit.
+template <class String>
+struct Encoded : testing::Test {
+    using Char = std::conditional_t<std::is_same_v<String, ZWideString>, wchar_t, char>;
+    using Text = std::basic_string<Char>;
+
+    static Text text(const char* bytes) {
+        return Text(bytes, bytes + std::strlen(bytes));
+    }
+    static String made(const char* bytes) {
+        return String(text(bytes).c_str());
+    }
+    static Text units(const String& string) {
+        return Text(static_cast<const Char*>(string));
+    }
+};
+
+using Classes = testing::Types<ZMultiByteString, ZWideString>;
+TYPED_TEST_SUITE(Encoded, Classes, );
+
+TYPED_TEST(Encoded, ConstructionFixesTextAndSlotsInUse) {
+    const auto abc = this->text("abc");
+    const typename TestFixture::Char* const none = nullptr;
+    const struct {
+        const char* what;
+        TypeParam string;
+        const char* text;
+        int slots;
+    } rows[] = {
+        {"default", TypeParam(), "", 1},
+        {"text", TypeParam(abc.c_str()), "abc", 4},
+        {"null", TypeParam(none), "", 1},
+        {"cut", TypeParam(abc.c_str(), 2), "ab", 3},
+        {"shorter than said", TypeParam(abc.c_str(), 40), "abc", 41},
+        {"negative count", TypeParam(abc.c_str(), -1), "", 1},
+        {"null with a count", TypeParam(none, 2), "", 3},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        EXPECT_EQ(this->units(row.string), this->text(row.text));
+        EXPECT_EQ(row.string.length(), static_cast<int>(std::strlen(row.text)));
+        EXPECT_EQ(row.string.allocLength(), row.slots);
+    }
+    EXPECT_EQ(sizeof(TypeParam), sizeof(ZString)) << "nothing but the array";
+}
+
+TYPED_TEST(Encoded, CopiesAreDeepAndWhatWasMovedFromStaysUsable) {
+    TypeParam source = this->made("abc");
+    source.resize(50);
+    TypeParam copy(source);
+    EXPECT_EQ(copy.allocLength(), 51);
+    TypeParam assigned;
+    assigned = copy;
+    assigned = static_cast<const TypeParam&>(assigned);
+    EXPECT_EQ(assigned.allocLength(), 51);
+    source[0] = 'x';
+    EXPECT_EQ(this->units(copy), this->text("abc"));
+    EXPECT_EQ(this->units(assigned), this->text("abc"));
+    assigned = this->text("de").c_str();
+    EXPECT_EQ(assigned.allocLength(), 3);
+
+    TypeParam taken(std::move(copy));
+    EXPECT_EQ(this->units(taken), this->text("abc"));
+    EXPECT_EQ(copy.length(), 0);
+    EXPECT_TRUE(copy == TypeParam());
+    copy[1] = 'y';
+    EXPECT_EQ(copy.length(), 0) << "terminated before it grew";
+    copy = std::move(taken);
+    taken += copy;
+    EXPECT_EQ(this->units(taken), this->text("abc"));
+}
+
+TYPED_TEST(Encoded, IndicesDoNotWrapAndWritingGrows) {
+    TypeParam string = this->made("abc");
+    const TypeParam& reader = string;
+    EXPECT_EQ(reader[-1], 'a');
+    EXPECT_EQ(reader[INT_MIN], 'a');
+    EXPECT_EQ(reader[std::size_t{2}], 'c');
+    EXPECT_EQ(reader[1000L], 0);
+    string[-7] = 'A';
+    string[9] = 'x';
+    EXPECT_EQ(this->units(string), this->text("Abc"));
+    EXPECT_EQ(string.allocLength(), 10);
+}
+
+TYPED_TEST(Encoded, AppendsAndTakesTextFromInside) {
+    TypeParam string = this->made("abcdefghijklmnopqrstuvwxyz012345"); // with a full allocation
+    string += string;
+    EXPECT_EQ(string.length(), 64);
+    EXPECT_EQ(string.allocLength(), 65);
+    const TypeParam& reader = string;
+    string += &reader[60];
+    EXPECT_EQ(this->units(string).substr(60), this->text("23452345"));
+    string = &reader[66];
+    EXPECT_EQ(this->units(string), this->text("45"));
+    string.set(this->text("<%s>").c_str(), &reader[0]);
+    EXPECT_EQ(this->units(string), this->text("<45>"));
+}
+
+TYPED_TEST(Encoded, ResizingCutsOrKeepsTheText) {
+    TypeParam string = this->made("abc");
+    string.resize(10);
+    EXPECT_EQ(this->units(string), this->text("abc"));
+    EXPECT_EQ(string.allocLength(), 11);
+    EXPECT_EQ(std::as_const(string)[10], 0);
+    string.resize(2);
+    EXPECT_EQ(this->units(string), this->text("ab"));
+    string.resize(-5);
+    EXPECT_EQ(string.allocLength(), 1);
+    EXPECT_EQ(string.length(), 0);
+}
+
+TYPED_TEST(Encoded, SubStringsFollowTheRuleOfZString) {
+    const TypeParam string = this->made("hello");
+    for (int start : {-12, -6, -2, 0, 1, 4, 5, 10, INT_MAX, INT_MIN}) {
+        for (int count : {-1, 0, 1, 3, 100, INT_MAX, INT_MIN}) {
+            SCOPED_TRACE(testing::Message() << start << ", " << count);
+            const TypeParam part = string.subString(start, count);
+            const std::wstring expected = wide(ZString(L"hello").subString(start, count));
+            EXPECT_EQ(std::wstring(&part[0], &part[0] + part.length()), expected);
+        }
+    }
+    EXPECT_EQ(TypeParam().subString(-1, -1).length(), 0);
+}
+
+TYPED_TEST(Encoded, StartsWithAPrefixInEitherCase) {
+    const TypeParam string = this->made("Abc[");
+    const struct {
+        const char* prefix;
+        int exact, caseless;
+    } rows[] = {{"", 1, 1},     {"Ab", 1, 1},    {"aB", 0, 1}, {"Abc[", 1, 1},
+                {"aBC{", 0, 0}, {"Abc[d", 0, 0}, {"b", 0, 0}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.prefix);
+        EXPECT_EQ(string.startsWith(this->text(row.prefix).c_str(), 0), row.exact);
+        EXPECT_EQ(string.startsWith(this->text(row.prefix).c_str(), 1), row.caseless);
+    }
+    EXPECT_EQ(string.startsWith(nullptr, 1), 0);
+}
+
+TYPED_TEST(Encoded, FormatsLikeZStringAndDoublesItsSlots) {
+    TypeParam string = this->made("before");
+    string.set(nullptr);
+    EXPECT_EQ(string.length(), 6);
+    string = TypeParam();
+    string.set(this->text("%s").c_str(), this->text("abcd").c_str());
+    EXPECT_EQ(string.allocLength(), 9) << "4 units filled the room of 4";
+    string.set(this->text("%4.*2f|%#x|%-5d|%c%%").c_str(), 1, 2.5, 255, 42, 'z');
+    EXPECT_EQ(this->units(string), this->text("2.500000000000|0xff|42   |z%"));
+    string.set(this->text("").c_str());
+    EXPECT_EQ(string.allocLength(), 1);
+}
+
+// The formats' own text is narrow in the one class and wide in the other.
+TEST(EncodedSet, TakesTextOfBothTypes) {
+    ZMultiByteString narrow;
+    narrow.set("%s|%hs|%S|%ls|%c%C|%.2S", "ab", "cd", L"ef", L"gh", 'i', L'j', L"klm");
+    EXPECT_STREQ(narrow, "ab|cd|ef|gh|ij|kl");
+    ZWideString wideText;
+    wideText.set(L"%s|%ls|%S|%hs|%c%C|%.2S", L"ab", L"cd", "ef", "gh", L'i', 'j', "klm");
+    EXPECT_STREQ(wideText, L"ab|cd|ef|gh|ij|kl");
+}
+
+// -1, 0 or 1 as the operators say, which must agree for strings and text on either side.
+template <class String, class Char>
+std::string relations(const Char* left, const Char* right) {
+    const String a(left), b(right);
+    const auto all = [](const auto& x, const auto& y) {
+        const int holds[] = {x == y, x != y, x<y, x> y, x <= y, x >= y};
+        const char* const names[] = {"==", "!=", "<", ">", "<=", ">="};
+        std::string found;
+        for (int i = 0; i < 6; ++i)
+            found += holds[i] != 0 ? std::string(" ") + names[i] : "";
+        return found;
+    };
+    EXPECT_EQ(all(a, b), all(a, right));
+    EXPECT_EQ(all(a, b), all(left, b));
+    return all(a, b);
+}
+
+TEST(EncodedComparison, DiffersByClass) {
+    const struct {
+        const char *a, *b, *narrow, *wide;
+    } rows[] = {
+        {"abc", "abc", " == <= >=", " == <= >="},
+        {"Abc", "abc", " != <= >=", " != < <="}, // neither equal nor less nor greater
+        {"B", "a", " != > >=", " != < <="},
+        {"[", "A", " != < <=", " != > >="}, // compared as the lower case 'a'
+        {"ab", "ABC", " != < <=", " != > >="},
+        {"", "a", " != < <=", " != < <="},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::Message() << row.a << " with " << row.b);
+        const ZString a(row.a), b(row.b);
+        EXPECT_EQ((relations<ZMultiByteString>(row.a, row.b)), row.narrow);
+        EXPECT_EQ((relations<ZWideString>(static_cast<const wchar_t*>(a),
+                                          static_cast<const wchar_t*>(b))),
+                  row.wide);
+    }
+    EXPECT_EQ((relations<ZMultiByteString>("\xC9", "\xE9")), " != < <=") << "A to Z alone fold";
+    EXPECT_EQ((relations<ZMultiByteString>("z", "\x80")), " != < <=") << "bytes are not signed";
+    ZString letter(L"a");
+    ZWideString joined = letter;
+    joined += letter;
+    EXPECT_TRUE(joined == L"aa" && ZMultiByteString() == nullptr);
+    char buffer[] = "a"; // not const: no address may be compared
+    ZMultiByteString string("A");
+    EXPECT_TRUE(string != buffer && buffer != string && string <= buffer && buffer >= string);
+}
+
+// ---- ZGenericString
+
+static_assert(!std::is_copy_assignable_v<ZGenericString>);
+static_assert(!std::is_assignable_v<ZGenericString&, ZGenericString&>);
+
+// The wide and the narrow form, as the object stores them.
+std::pair<const wchar_t*, const char*> formsOf(const ZGenericString& string) {
+    struct Layout {
+        void* table;
+        const wchar_t* wide;
+        const char* bytes;
+    } layout;
+    static_assert(sizeof layout == sizeof string);
+    std::memcpy(&layout, static_cast<const void*>(&string), sizeof layout);
+    return {layout.wide, layout.bytes};
+}
+
+TEST(ZGenericString, HoldsTheFormItWasMadeFrom) {
+    const char* const none = nullptr;
+    const wchar_t* const wideNone = nullptr;
+    const ZString abc(L"abc");
+    const struct {
+        const char* what;
+        ZGenericString string;
+        const wchar_t* wide;
+        const char* bytes;
+    } rows[] = {
+        {"string", ZGenericString(abc), L"abc", nullptr},
+        {"bytes", ZGenericString("abc"), nullptr, "abc"},
+        {"bytes, cut", ZGenericString("abc", 3), nullptr, "ab"},
+        {"bytes, room to spare", ZGenericString("abc", 9), nullptr, "abc"},
+        {"bytes, no room", ZGenericString("abc", 0), nullptr, nullptr},
+        {"bytes, negative room", ZGenericString("abc", -1), nullptr, nullptr},
+        {"wide", ZGenericString(L"abc"), L"abc", nullptr},
+        {"wide, cut", ZGenericString(L"abc", 3), L"ab", nullptr},
+        {"wide, one unit", ZGenericString(L"abc", 1), L"", nullptr},
+        {"empty", ZGenericString(""), nullptr, ""},
+        {"null", ZGenericString(none), nullptr, nullptr},
+        {"wide null", ZGenericString(wideNone, 5), nullptr, nullptr},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        const auto [wideForm, bytes] = formsOf(row.string);
+        EXPECT_STREQ(wideForm, row.wide);
+        EXPECT_STREQ(bytes, row.bytes);
+        // Copies are deep, and the conversions make what is missing.
+        ZGenericString copy(row.string);
+        const auto [wideCopy, bytesCopy] = formsOf(copy);
+        EXPECT_TRUE((wideCopy == nullptr || wideCopy != wideForm) &&
+                    (bytesCopy == nullptr || bytesCopy != bytes));
+        const bool isThere = row.wide != nullptr || row.bytes != nullptr;
+        EXPECT_EQ(static_cast<wchar_t*>(copy) != nullptr, isThere);
+        EXPECT_EQ(static_cast<char*>(copy) != nullptr, isThere);
+        EXPECT_EQ(ZString(copy).multiByteSize(),
+                  static_cast<int>(std::strlen(isThere ? static_cast<char*>(copy) : "")) + 1);
+    }
+}
+
+TEST(ZGenericString, MakesTheOtherFormOnce) {
+    ZGenericString string(L"\u00E9t\u00E9");
+    char* const bytes = string;
+    EXPECT_TRUE(ZMultiByteString(L"\u00E9t\u00E9", 0) == bytes);
+    EXPECT_EQ(static_cast<char*>(string), bytes);
+    ZGenericString back(bytes);
+    wchar_t* const units = back;
+    EXPECT_STREQ(units, L"\u00E9t\u00E9");
+    EXPECT_EQ(static_cast<wchar_t*>(back), units);
+    const wchar_t* const reading = back;
+    EXPECT_EQ(reading, units);
+
+    ZString text(back);
+    EXPECT_EQ(text.allocLength(), 4);
+    text = string;
+    text += string;
+    EXPECT_EQ(wide(text), L"\u00E9t\u00E9\u00E9t\u00E9");
+    ZGenericString nothing(static_cast<const char*>(nullptr));
+    text = nothing;
+    EXPECT_EQ(wide(text), L"");
+}
+
+// Reaches the private assignment, as an explicit instantiation may.
+ZGenericString& assign(ZGenericString& a, ZGenericString& b);
+
+template <auto assignment>
+struct Reached {
+    friend ZGenericString& assign(ZGenericString& a, ZGenericString& b) {
+        return (a.*assignment)(b);
+    }
+};
+template struct Reached < &ZGenericString::operator=>;
+
+TEST(ZGenericString, AssignmentTakesTheFormsThatTheSourceHolds) {
+    ZGenericString target("both");
+    EXPECT_STREQ(static_cast<wchar_t*>(target), L"both");
+    ZGenericString source(L"wide");
+    assign(target, source);
+    EXPECT_STREQ(formsOf(target).first, L"wide");
+    EXPECT_NE(formsOf(target).first, formsOf(source).first);
+    EXPECT_EQ(formsOf(target).second, nullptr);
+    EXPECT_STREQ(formsOf(assign(target, target)).first, L"wide");
+}
+
+// Frees the forms as a derived class of a host may.
+struct Freeing : ZGenericString {
+    using ZGenericString::freeBuffers;
+    using ZGenericString::ZGenericString;
+};
+
+TEST(ZGenericString, DerivedClassesFreeTheForms) {
+    Freeing string("abc");
+    EXPECT_STREQ(static_cast<wchar_t*>(string), L"abc");
+    string.freeBuffers();
+    EXPECT_EQ(static_cast<wchar_t*>(string), nullptr);
+    EXPECT_EQ(static_cast<char*>(string), nullptr);
+}
+
+} // namespace

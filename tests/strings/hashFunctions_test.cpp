@@ -1,0 +1,110 @@
+#include "tests/support.h"
+
+#include <zarnex/strings/hashFunctions.h>
+
+#include <climits>
+#include <cstdlib>
+#include <random>
+#include <string>
+
+namespace {
+
+static_assert(sizeof(HashFunction1) == 4 && sizeof(HashFunction2) == 4 &&
+              sizeof(HashFunction3) == 4);
+static_assert(sizeof(ZHashInt) == sizeof(void*) + 8); // the table, the value, padding
+
+// A polynomial of the text's units in `x`, modulo 2^32, from its highest term.
+std::int32_t polynomial(const std::wstring& text, std::uint32_t x, std::uint32_t first) {
+    std::uint32_t sum = 0;
+    std::uint32_t power = 1;
+    for (std::size_t i = text.size(); i-- > 0; power *= x)
+        sum += (static_cast<std::uint32_t>(text[i]) & 0xFFFF) * power;
+    return static_cast<std::int32_t>(sum + first * power);
+}
+
+std::int64_t reduced(std::int32_t hash, std::int64_t size) {
+    return (hash == INT_MIN ? hash : std::int64_t{std::abs(hash)}) % size;
+}
+
+TEST(HashFunctions, ReducePolynomialsOfTheUnits) {
+    std::mt19937 random(11);
+    for (int turn = 0; turn < 2000; ++turn) {
+        std::wstring text;
+        for (auto left = random() % 40; left > 0; --left)
+            text += static_cast<wchar_t>(1 + random() % 0xFFFF);
+        const long size = turn % 2 == 0 ? 1073741827 : 1 + static_cast<long>(random() % 1000);
+        const auto length = static_cast<std::uint32_t>(text.size());
+        ASSERT_EQ(HashFunction1(size)(text.c_str()), reduced(polynomial(text, 4, 0), size));
+        ASSERT_EQ(HashFunction2(size)(text.c_str()), reduced(polynomial(text, 613, length), size));
+    }
+}
+
+TEST(HashFunctions, GiveFixedValues) {
+    const struct {
+        const wchar_t* text;
+        long size;
+        std::int64_t first, second, third;
+    } rows[] = {
+        {L"", 10, 0, 0, 0},
+        {L"A", 10, 5, 8, 10193},
+        {L"A", 1000, 65, 678, 10193},
+        {L"a", 1000, 97, 710, 15211},
+        {L"A", 0, 0, 0, 10193},
+        {L"A", -7, 2, 6, 10193},
+        {L"stitch length", -101, 24, 45, 43141652},
+        {L"sequins, beads and stitches in order", 1009, 769, 806, 1118633216}, // shifts wrap
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::Message() << shown(row.text) << " modulo " << row.size);
+        EXPECT_EQ(HashFunction1(row.size)(row.text), row.first);
+        EXPECT_EQ(HashFunction2(row.size)(row.text), row.second);
+        EXPECT_EQ(HashFunction3(row.size)(row.text), row.third);
+    }
+}
+
+TEST(HashFunctions, TheSmallestIntegerStaysNegative) {
+    // 4^15 + 3 * (4^14 + ... + 4) + 4 = 2^31
+    const std::wstring first = L"\x1" + std::wstring(14, L'\x3') + L"\x4";
+    EXPECT_EQ(HashFunction1(1000)(first.c_str()), -648);
+    EXPECT_EQ(HashFunction1(-1)(first.c_str()), 0) << "does not trap";
+    // In pairs the units cancel; U+0080 at index 16 becomes 2^31 and at 17 nothing, and 25
+    // at index 24 cancels the length.
+    std::wstring third;
+    for (int i = 0; i < 12; ++i)
+        third += i == 8 ? L"\x80\x80" : L"\x2\x1";
+    third += L'\x19';
+    EXPECT_EQ(HashFunction3()(third.c_str()), -1315424640);
+}
+
+TEST(HashFunctions, TakeTheLow16BitsOfEachUnitAndTellCases) {
+    if (sizeof(wchar_t) == 4) {
+        const wchar_t high[] = {static_cast<wchar_t>(0x10041), L'\0'};
+        EXPECT_EQ(HashFunction1(10)(high), 5);
+        EXPECT_EQ(HashFunction3()(high), 10193);
+    }
+    EXPECT_NE(HashFunction2()(L"abc"), HashFunction2()(L"ABC"));
+}
+
+TEST(ZHashInt, HoldsAndHashesAnInteger) {
+    const struct {
+        int value;
+        int hash;
+    } rows[] = {{0, 0},
+                {3, 5223},
+                {-1, -1741},
+                {INT_MAX, INT_MAX - 1740},
+                {INT_MIN, INT_MIN},
+                {2500000, 57532704}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.value);
+        const ZHashInt key(row.value);
+        EXPECT_EQ(key.hash(), row.hash);
+        EXPECT_EQ(IntHashFunction()(key), row.hash);
+        EXPECT_EQ(key.getInt(), row.value);
+        EXPECT_EQ(int(ZHashInt(key)), row.value);
+        EXPECT_TRUE(key == ZHashInt(row.value) && !(key != ZHashInt(row.value)));
+        EXPECT_TRUE(key == row.value && row.value == key && key != row.value + 1LL && 5L != key);
+    }
+}
+
+} // namespace
