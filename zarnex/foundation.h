@@ -39,6 +39,7 @@
 #include <zarnex/geometry/segmentAtDistance.h>
 #include <zarnex/geometry/segmentOverlap.h>
 #include <zarnex/geometry/tolerance.h>
+#include <zarnex/ids/ZGUIDWrapper.h>
 #include <zarnex/platform/records.h>
 #include <zarnex/runtime/MiniGuard.h>
 #include <zarnex/runtime/MiniLock.h>

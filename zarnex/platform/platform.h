@@ -41,4 +41,18 @@ int characterBytes(const char* text);
 /// rest. False where the system has none.
 bool readNonClientMetrics(NONCLIENTMETRICSW& metrics);
 
+/// Makes a new random GUID of version 4, on any number of threads and in forked
+/// processes too. False, with a `guid` of zeros, where the system has no randomness.
+bool createGuid(GUID& guid);
+
+inline constexpr int guidTextSize = 37; ///< 36 digits and hyphens, and the terminator
+
+/// Writes the text form in lower case, without braces. False on failure, which
+/// leaves `text` alone.
+bool guidToText(const GUID& guid, wchar_t (&text)[guidTextSize]);
+
+/// Reads the text form, in either case. False for every other text, also for one
+/// with braces, blanks or anything behind it, which leaves `guid` alone.
+bool guidFromText(const wchar_t* text, GUID& guid);
+
 } // namespace zarnex::platform

@@ -2,11 +2,13 @@
 
 /// The plain records that the interface takes from the platform.
 ///
-/// On Windows they are the system's own and only declared here, so that this
-/// header neither needs the system's headers nor quarrels with them. On Linux
-/// they are defined with the same layout.
+/// On Windows they are the system's own. All but GUID are only declared here, so
+/// that this header neither needs the system's headers nor quarrels with them; GUID
+/// has a small header to itself. On Linux they are defined with the same layout.
 
 #if defined(_WIN32)
+
+#include <guiddef.h>
 
 struct tagPOINT;
 struct tagNONCLIENTMETRICSW;
@@ -64,7 +66,24 @@ typedef struct tagNONCLIENTMETRICSW NONCLIENTMETRICSW;
 
 static_assert(sizeof(NONCLIENTMETRICSW) == 504, "the layout of the platform's record");
 
-#endif
+// Several libraries declare this record; whoever comes first sets the macro.
+#if !defined(GUID_DEFINED)
+#define GUID_DEFINED
+
+/// A globally unique identifier. Its text form is the hexadecimal digits of Data1,
+/// Data2, Data3, the first two bytes of Data4 and the other six, joined by hyphens.
+typedef struct _GUID {
+    std::uint32_t Data1;
+    std::uint16_t Data2;
+    std::uint16_t Data3;
+    unsigned char Data4[8];
+} GUID;
+
+static_assert(sizeof(GUID) == 16, "the layout of the platform's record");
+
+#endif // GUID_DEFINED
+
+#endif // _WIN32
 
 namespace zarnex {
 
