@@ -29,7 +29,7 @@ struct TextAccess;
 /// process ends with "failed alloc" and status 1.
 ///
 ///     const ZMultiByteString name = strToUtf8(L"Stickgr\u00F6\u00DFe");
-///     name.length()                      // 13, in bytes
+///     name.length()                      // 12, in bytes
 ///     name.startsWith("stick", 1)        // 1
 class ZARNEX_API ZMultiByteString {
 public:

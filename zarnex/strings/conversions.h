@@ -9,8 +9,8 @@
 ///
 /// A code page is a number as Windows counts them: 0 is the system's own (UTF-8 on Linux),
 /// 65001 UTF-8. On Linux the others are those that the C library's iconv knows as
-/// "CP1252". The result of an unknown code page is the empty text; so is that of more than
-/// 2^31 - 2 bytes or units.
+/// "CP1252". With an unknown code page the result is the empty text, as it is where it
+/// would have more than 2^31 - 2 bytes or units.
 ///
 /// What cannot be converted:
 /// - UTF-8 follows one rule on both platforms. An ill-formed sequence gives one U+FFFD for
