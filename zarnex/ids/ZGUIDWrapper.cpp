@@ -64,8 +64,6 @@ ZGUIDWrapper::ZGUIDWrapper(const ZGUIDWrapper& other)
       text_(other.valid_ != 0 ? other.text_ : ZString()) {}
 
 ZGUIDWrapper& ZGUIDWrapper::operator=(const ZGUIDWrapper& other) {
-    if (this == &other)
-        return *this;
     valid_ = other.valid_;
     if (valid_ != 0) {
         guid_ = other.guid_;
