@@ -2,6 +2,7 @@
 
 /// Every public header of the library.
 
+#include <zarnex/bigint/SigUInt.h>
 #include <zarnex/config.h>
 #include <zarnex/containers/VMAccess.h>
 #include <zarnex/containers/ZArray.h>

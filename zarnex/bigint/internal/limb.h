@@ -1,0 +1,222 @@
+#pragma once
+
+/// One limb of a large number, and the arithmetic that is wider than it.
+///
+/// A number is an array of limbs, least significant first. Define ZARNEX_PORTABLE_LIMBS
+/// to do without the compiler's 128-bit integer and carry instructions.
+
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+
+#if !defined(ZARNEX_PORTABLE_LIMBS)
+#if defined(__SIZEOF_INT128__)
+#define ZARNEX_WIDE_LIMBS
+#endif
+#if defined(__x86_64__)
+#define ZARNEX_CARRY_INSTRUCTIONS
+#include <immintrin.h>
+#endif
+#endif
+
+namespace zarnex::detail {
+
+using Limb = unsigned long long;
+using Size = std::ptrdiff_t; ///< a number of limbs
+
+inline constexpr int limbBits = 64;
+static_assert(std::numeric_limits<Limb>::digits == limbBits);
+
+/// The two limbs of high * 2^64 + low.
+struct LimbPair {
+    Limb low;
+    Limb high;
+};
+
+#if defined(ZARNEX_WIDE_LIMBS)
+
+__extension__ typedef unsigned __int128 WideLimb;
+
+inline LimbPair product(Limb a, Limb b) {
+    const WideLimb wide = WideLimb{a} * b;
+    return {static_cast<Limb>(wide), static_cast<Limb>(wide >> limbBits)};
+}
+
+#else
+
+inline LimbPair product(Limb a, Limb b) {
+    const Limb half = 0xffffffff;
+    const Limb low = (a & half) * (b & half);
+    const Limb cross = (a >> 32) * (b & half) + (low >> 32);
+    const Limb other = (a & half) * (b >> 32) + (cross & half);
+    return {other << 32 | (low & half), (a >> 32) * (b >> 32) + (cross >> 32) + (other >> 32)};
+}
+
+#endif
+
+/// The low limb of a * b + addend + carry; `carry` takes the high one. It always fits.
+inline Limb multiplyAdd(Limb a, Limb b, Limb addend, Limb& carry) {
+#if defined(ZARNEX_WIDE_LIMBS)
+    WideLimb wide = WideLimb{a} * b;
+    wide += addend;
+    wide += carry;
+    carry = static_cast<Limb>(wide >> limbBits);
+    return static_cast<Limb>(wide);
+#else
+    LimbPair sum = product(a, b);
+    sum.low += addend;
+    sum.high += sum.low < addend ? 1 : 0;
+    sum.low += carry;
+    sum.high += sum.low < carry ? 1 : 0;
+    carry = sum.high;
+    return sum.low;
+#endif
+}
+
+/// a + b + carry; `carry` is 0 or 1 before and after.
+inline Limb addCarry(Limb a, Limb b, unsigned char& carry) {
+#if defined(ZARNEX_CARRY_INSTRUCTIONS)
+    Limb sum;
+    carry = _addcarry_u64(carry, a, b, &sum);
+    return sum;
+#else
+    const Limb partial = a + b;
+    const Limb sum = partial + carry;
+    carry = (partial < a || sum < partial) ? 1 : 0;
+    return sum;
+#endif
+}
+
+/// a - b - borrow; `borrow` is 0 or 1 before and after.
+inline Limb subtractBorrow(Limb a, Limb b, unsigned char& borrow) {
+#if defined(ZARNEX_CARRY_INSTRUCTIONS)
+    Limb difference;
+    borrow = _subborrow_u64(borrow, a, b, &difference);
+    return difference;
+#else
+    const Limb partial = a - b;
+    const Limb difference = partial - borrow;
+    borrow = (partial > a || difference > partial) ? 1 : 0;
+    return difference;
+#endif
+}
+
+/// A sum of products in three limbs, for results computed column by column: what
+/// belongs to one limb of the result is added up, then next() takes the limb out.
+class Accumulator {
+public:
+    void addProduct(Limb a, Limb b) {
+#if defined(ZARNEX_WIDE_LIMBS)
+        top_ += __builtin_add_overflow(low_, WideLimb{a} * b, &low_) ? 1 : 0;
+#else
+        add(product(a, b), 0);
+#endif
+    }
+
+    void add(Limb limb) {
+#if defined(ZARNEX_WIDE_LIMBS)
+        top_ += __builtin_add_overflow(low_, WideLimb{limb}, &low_) ? 1 : 0;
+#else
+        add({limb, 0}, 0);
+#endif
+    }
+
+    void add(const Accumulator& other) {
+#if defined(ZARNEX_WIDE_LIMBS)
+        top_ += other.top_ + (__builtin_add_overflow(low_, other.low_, &low_) ? 1 : 0);
+#else
+        add(other.low_, other.top_);
+#endif
+    }
+
+    /// The lowest limb of the sum.
+    Limb limb() const {
+#if defined(ZARNEX_WIDE_LIMBS)
+        return static_cast<Limb>(low_);
+#else
+        return low_.low;
+#endif
+    }
+
+    /// Takes out the lowest limb; the rest moves down to it.
+    Limb next() {
+        const Limb taken = limb();
+#if defined(ZARNEX_WIDE_LIMBS)
+        low_ = low_ >> limbBits | WideLimb{top_} << limbBits;
+#else
+        low_ = {low_.high, top_};
+#endif
+        top_ = 0;
+        return taken;
+    }
+
+private:
+#if defined(ZARNEX_WIDE_LIMBS)
+    WideLimb low_ = 0;
+#else
+    void add(LimbPair pair, Limb top) {
+        unsigned char carry = 0;
+        low_.low = addCarry(low_.low, pair.low, carry);
+        low_.high = addCarry(low_.high, pair.high, carry);
+        top_ += top + carry;
+    }
+
+    LimbPair low_ = {0, 0};
+#endif
+    Limb top_ = 0;
+};
+
+/// (high * 2^64 + low) / divisor, for `high` below `divisor`.
+inline Limb divideSlowly(LimbPair number, Limb divisor) {
+#if defined(ZARNEX_WIDE_LIMBS)
+    return static_cast<Limb>((WideLimb{number.high} << limbBits | number.low) / divisor);
+#else
+    Limb quotient = 0;
+    for (int i = 0; i < limbBits; ++i) {
+        const bool over = number.high >> (limbBits - 1) != 0;
+        number.high = number.high << 1 | number.low >> (limbBits - 1);
+        number.low <<= 1;
+        quotient <<= 1;
+        if (over || number.high >= divisor) {
+            number.high -= divisor;
+            ++quotient;
+        }
+    }
+    return quotient;
+#endif
+}
+
+/// A divisor of one limb whose highest bit is set, ready to divide pairs of limbs by
+/// multiplying with its reciprocal.
+///
+/// Source: Möller and Granlund, "Improved division by invariant integers", IEEE
+/// Transactions on Computers 60 (2011).
+class LimbDivisor {
+public:
+    explicit LimbDivisor(Limb divisor)
+        : divisor_(divisor), reciprocal_(divideSlowly({~Limb{0}, ~divisor}, divisor)) {}
+
+    /// The quotient; `number.high` must be below the divisor. Sets `remainder`.
+    Limb divide(LimbPair number, Limb& remainder) const {
+        LimbPair quotient = product(reciprocal_, number.high);
+        unsigned char carry = 0;
+        quotient.low = addCarry(quotient.low, number.low, carry);
+        quotient.high = addCarry(quotient.high, number.high, carry) + 1;
+        remainder = number.low - quotient.high * divisor_;
+        if (remainder > quotient.low) {
+            --quotient.high;
+            remainder += divisor_;
+        }
+        if (remainder >= divisor_) {
+            ++quotient.high;
+            remainder -= divisor_;
+        }
+        return quotient.high;
+    }
+
+private:
+    Limb divisor_;
+    Limb reciprocal_; ///< floor((2^128 - 1) / divisor) - 2^64
+};
+
+} // namespace zarnex::detail
