@@ -139,8 +139,6 @@ private:
     friend ZARNEX_API int operator<(const SigUInt& a, const SigUInt& b);
     friend ZARNEX_API SigUInt a_exp_b_mod_c(const SigUInt& a, const SigUInt& b, const SigUInt& c);
 
-    template <class Digit>
-    void setDigits(const Digit* digits, int count);
     void takeFrom(SigUInt& other);
     void release();
     void reserve(long long count);
