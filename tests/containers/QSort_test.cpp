@@ -56,7 +56,7 @@ void expectSorted(std::size_t count) {
 }
 
 TEST(QSort, SortsElementsOfEverySize) {
-    for (const std::size_t count : {1, 2, 3, 100, 1000}) {
+    for (const std::size_t count : {1u, 2u, 3u, 100u, 1000u}) {
         expectSorted<1>(count);
         expectSorted<4>(count);
         expectSorted<24>(count);

@@ -6,27 +6,6 @@ DLList::~DLList() {
     clear();
 }
 
-void DLList::insert(DLLNode& n, int i) {
-    if (n.owner_ != nullptr)
-        return;
-    const bool isFirst = i <= 0;
-    link(n, isFirst || head_ == nullptr || i >= count_ ? head_ : nodeAt(i));
-    if (isFirst)
-        head_ = &n;
-}
-
-DLLNode* DLList::remove(int i) {
-    if (head_ == nullptr || i >= count_)
-        return nullptr;
-    DLLNode* node = head_;
-    for (; i > 0; --i) {
-        node = node->next_;
-        if (node == head_)
-            return nullptr; // nodes deleted in the list left fewer than are counted
-    }
-    return unlink(*node);
-}
-
 int DLList::find(DLLNode& n) {
     if (head_ == nullptr)
         return -1;
@@ -39,10 +18,6 @@ int DLList::find(DLLNode& n) {
             return -1;
     }
     return index;
-}
-
-DLLNode* DLList::operator[](int i) const {
-    return head_ != nullptr && i < count_ ? nodeAt(i) : nullptr;
 }
 
 DLLNode* DLList::operator()(int i) {
@@ -100,9 +75,13 @@ void DLList::clear() {
     cursor_ = nullptr;
 }
 
-DLLNode* DLList::nodeAt(int i) const {
+DLLNode* DLList::nodeWithinRing(int i) const {
+    // Nodes that were deleted in the list left fewer in the ring than are counted.
     DLLNode* node = head_;
-    for (; i > 0; --i)
+    for (; i > 0; --i) {
         node = node->next_;
+        if (node == head_)
+            return nullptr;
+    }
     return node;
 }

@@ -45,6 +45,7 @@ public:
     DLLNode* remove();
 
     /// The same with `n`; nothing if it is not in this list, or came to it through join().
+    /// Once join() has moved nodes out of this list, it searches for `n` first.
     void remove(DLLNode& n);
 
     /// The position of `n`; -1 if it is not in this list.
@@ -102,7 +103,8 @@ protected:
     void clear();
 
 private:
-    DLLNode* nodeAt(int i) const; ///< `i` steps from the head; not for empty lists
+    DLLNode* nodeAt(int i) const;         ///< `i` steps from the head; not for empty lists
+    DLLNode* nodeWithinRing(int i) const; ///< the same; null if that leads past the tail
     DLLNode* tail() const;
 
     /// Puts `n` in front of `target`, or as the only node for null.
@@ -117,9 +119,64 @@ private:
 
 ZARNEX_INLINE DLList::DLList() {}
 
+// First the members that others below call: mingw-w64 refuses to see them after their use.
+
+ZARNEX_INLINE DLLNode* DLList::nodeAt(int i) const {
+    DLLNode* node = head_;
+    for (; i > 0; --i)
+        node = node->next_;
+    return node;
+}
+
+ZARNEX_INLINE DLLNode* DLList::tail() const {
+    return head_ != nullptr ? head_->prev_ : nullptr;
+}
+
+ZARNEX_INLINE void DLList::link(DLLNode& n, DLLNode* target) {
+    n.owner_ = this;
+    if (target == nullptr) {
+        head_ = &n;
+    } else {
+        DLLNode* const before = target->prev_;
+        n.prev_ = before;
+        n.next_ = target;
+        before->next_ = &n;
+        target->prev_ = &n;
+    }
+    if (++count_ == 1)
+        cursor_ = &n;
+}
+
+ZARNEX_INLINE DLLNode* DLList::unlink(DLLNode& n) {
+    DLLNode* const next = n.next_ != &n ? n.next_ : nullptr;
+    if (head_ == &n)
+        head_ = next;
+    if (cursor_ == &n)
+        cursor_ = next;
+    n.unlink();
+    --count_;
+    return &n;
+}
+
 ZARNEX_INLINE void DLList::insert(DLLNode& n) {
     if (n.owner_ == nullptr)
         link(n, head_);
+}
+
+ZARNEX_INLINE void DLList::insert(DLLNode& n, int i) {
+    if (n.owner_ != nullptr)
+        return;
+    const bool isInside = i > 0 && i < count_ && head_ != nullptr;
+    link(n, isInside ? nodeAt(i) : head_);
+    if (i <= 0)
+        head_ = &n;
+}
+
+ZARNEX_INLINE DLLNode* DLList::remove(int i) {
+    if (head_ == nullptr || i >= count_)
+        return nullptr;
+    DLLNode* const node = i <= 0 ? head_ : nodeWithinRing(i);
+    return node != nullptr ? unlink(*node) : nullptr;
 }
 
 ZARNEX_INLINE DLLNode* DLList::remove() {
@@ -129,6 +186,10 @@ ZARNEX_INLINE DLLNode* DLList::remove() {
 ZARNEX_INLINE void DLList::remove(DLLNode& n) {
     if (head_ != nullptr && n.owner_ == this && (!hasLostNodes_ || find(n) >= 0))
         unlink(n);
+}
+
+ZARNEX_INLINE DLLNode* DLList::operator[](int i) const {
+    return head_ != nullptr && i < count_ ? nodeAt(i) : nullptr;
 }
 
 ZARNEX_INLINE DLLNode* DLList::current() const {
@@ -167,34 +228,4 @@ ZARNEX_INLINE DLLNode& DLList::pred(DLLNode& n) {
 
 ZARNEX_INLINE DLLNode& DLList::succ(DLLNode& n) {
     return *n.next_;
-}
-
-ZARNEX_INLINE DLLNode* DLList::tail() const {
-    return head_ != nullptr ? head_->prev_ : nullptr;
-}
-
-ZARNEX_INLINE void DLList::link(DLLNode& n, DLLNode* target) {
-    n.owner_ = this;
-    if (target == nullptr) {
-        head_ = &n;
-    } else {
-        DLLNode* const before = target->prev_;
-        n.prev_ = before;
-        n.next_ = target;
-        before->next_ = &n;
-        target->prev_ = &n;
-    }
-    if (++count_ == 1)
-        cursor_ = &n;
-}
-
-ZARNEX_INLINE DLLNode* DLList::unlink(DLLNode& n) {
-    DLLNode* const next = n.next_ != &n ? n.next_ : nullptr;
-    if (head_ == &n)
-        head_ = next;
-    if (cursor_ == &n)
-        cursor_ = next;
-    n.unlink();
-    --count_;
-    return &n;
 }

@@ -109,12 +109,12 @@ ZARNEX_INLINE int ZGroup::size() const {
     return count_;
 }
 
-ZARNEX_INLINE int ZGroup::operator==(ZGroup* other) const {
-    return (*this != other) == 0;
-}
-
 ZARNEX_INLINE int ZGroup::operator!=(ZGroup* other) const {
     return *this != static_cast<const ZGroup*>(other);
+}
+
+ZARNEX_INLINE int ZGroup::operator==(ZGroup* other) const {
+    return (*this != other) == 0;
 }
 
 ZARNEX_INLINE int ZGroup::operator!=(std::nullptr_t) const {
