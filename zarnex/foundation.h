@@ -4,9 +4,15 @@
 
 #include <zarnex/bigint/SigUInt.h>
 #include <zarnex/config.h>
+#include <zarnex/containers/DLLNode.h>
+#include <zarnex/containers/DLList.h>
+#include <zarnex/containers/QSort.h>
+#include <zarnex/containers/Stack.h>
 #include <zarnex/containers/VMAccess.h>
 #include <zarnex/containers/ZArray.h>
 #include <zarnex/containers/ZArrayManager.h>
+#include <zarnex/containers/ZGroup.h>
+#include <zarnex/containers/ZGroupable.h>
 #include <zarnex/containers/ZList.h>
 #include <zarnex/containers/ZListDefinitions.h>
 #include <zarnex/containers/ZListIterator.h>

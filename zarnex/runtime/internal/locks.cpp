@@ -14,4 +14,9 @@ MiniLock& scannerLock() {
     return lock;
 }
 
+MiniLock& sortLock() {
+    static MiniLock& lock = *new MiniLock;
+    return lock;
+}
+
 } // namespace zarnex::detail

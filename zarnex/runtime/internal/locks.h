@@ -12,5 +12,6 @@ namespace zarnex::detail {
 
 MiniLock& refCountLock(); ///< lockRefCount() and unlockRefCount()
 MiniLock& scannerLock();  ///< each ZUnitScanner, all its life
+MiniLock& sortLock();     ///< QSort::sort()
 
 } // namespace zarnex::detail

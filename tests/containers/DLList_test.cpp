@@ -1,0 +1,250 @@
+#include <zarnex/containers/DLList.h>
+#include <zarnex/containers/Stack.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <climits>
+#include <cstdint>
+#include <cstring>
+#include <map>
+#include <random>
+#include <vector>
+
+namespace {
+
+struct Item : DLLNode {
+    Item() {
+        ++alive;
+    }
+    Item(const Item& other) : DLLNode(other) {
+        ++alive;
+    }
+    Item& operator=(const Item&) = default;
+    ~Item() override {
+        --alive;
+    }
+    static inline int alive = 0;
+};
+
+using Nodes = std::vector<DLLNode*>;
+
+// The nodes of `list` from the head on, with the ring checked in both directions.
+Nodes nodes(DLList& list) {
+    Nodes found;
+    for (DLLNode* node = list[0]; node != nullptr; node = &list.succ(*node)) {
+        EXPECT_EQ(&list.pred(list.succ(*node)), node);
+        found.push_back(node);
+        if (list.isTail(node) != 0)
+            break;
+    }
+    return found;
+}
+
+void fill(DLList& list, int count) {
+    for (int i = 0; i < count; ++i)
+        list.insert(*new Item);
+}
+
+TEST(DLList, FieldsStandInTheirOrder) {
+    struct {
+        const void *table, *prev, *next, *owner;
+    } node;
+    struct {
+        const void *table, *head;
+        std::int32_t count;
+        const void* cursor;
+    } fields;
+    static_assert(sizeof node == sizeof(DLLNode) && sizeof fields == sizeof(Stack));
+    DLList list;
+    fill(list, 3);
+    list.forward();
+    std::memcpy(&node, static_cast<const void*>(list[0]), sizeof node);
+    std::memcpy(&fields, static_cast<const void*>(&list), sizeof fields);
+    EXPECT_EQ(node.prev, list[2]);
+    EXPECT_EQ(node.next, list[1]);
+    EXPECT_EQ(node.owner, &list);
+    EXPECT_EQ(fields.head, list[0]);
+    EXPECT_EQ(fields.count, 3);
+    EXPECT_EQ(fields.cursor, list[1]);
+}
+
+TEST(DLList, BehavesAsTwoArraysUnderRandomChanges) {
+    std::mt19937 random(5);
+    const auto below = [&random](std::size_t end) { return static_cast<int>(random() % end); };
+    Nodes pool;
+    for (int i = 0; i < 12; ++i)
+        pool.push_back(new Item);
+    std::map<DLLNode*, int> owners; // of the nodes that have one
+    {
+        DLList lists[2];
+        Nodes models[2];
+        for (int round = 0; round < 30000; ++round) {
+            const int which = below(2), count = static_cast<int>(models[which].size());
+            DLList& list = lists[which];
+            Nodes& model = models[which];
+            DLLNode* node = pool[random() % pool.size()];
+            const int odd[] = {INT_MIN, -1, count, INT_MAX};
+            const int i = below(4) == 0 ? odd[below(4)] : below(9);
+            const auto found = std::find(model.begin(), model.end(), node);
+            const bool isHeld = found != model.end();
+            const int operation = below(20) == 0 ? 0 : 1 + below(6);
+            SCOPED_TRACE(testing::Message() << "round " << round << ", operation " << operation);
+
+            DLLNode* taken = isHeld && owners[node] == which ? node : nullptr;
+            ASSERT_EQ(list.find(*node), isHeld ? found - model.begin() : -1);
+            if (operation == 0) {
+                list.join(lists[below(2)]); // or itself
+                if (Nodes& other = models[1 - which]; lists[1 - which].isEmpty() != 0) {
+                    model.insert(model.end(), other.begin(), other.end());
+                    other.clear();
+                }
+            } else if (operation <= 2) {
+                operation == 1 ? list.insert(*node) : list.insert(*node, i);
+                if (owners.emplace(node, which).second)
+                    model.insert(model.begin() + (operation == 1 ? count : std::clamp(i, 0, count)),
+                                 node);
+            } else if (operation == 3) {
+                ASSERT_EQ(list.setHead(node), isHeld);
+                std::rotate(model.begin(), found, model.end());
+            } else {
+                const int place = operation == 4 ? (std::max)(i, 0) : count - 1;
+                if (operation == 6) {
+                    list.remove(*node);
+                } else {
+                    taken = place >= 0 && place < count ? model[std::size_t(place)] : nullptr;
+                    ASSERT_EQ(list[operation == 4 ? i : place], taken);
+                    ASSERT_EQ(operation == 4 ? list.remove(i) : list.remove(), taken);
+                }
+                model.erase(std::remove(model.begin(), model.end(), taken), model.end());
+                owners.erase(taken);
+            }
+            for (int k = 0; k < 2; ++k) {
+                ASSERT_EQ(nodes(lists[k]), models[k]);
+                ASSERT_EQ(lists[k].length(), static_cast<int>(models[k].size()));
+                DLLNode* const current = lists[k].current();
+                ASSERT_EQ(current == nullptr, models[k].empty());
+                ASSERT_TRUE(current == nullptr || lists[k].find(*current) >= 0);
+            }
+        }
+        EXPECT_EQ(Item::alive, 12);
+    }
+    for (DLLNode* const node : pool) {
+        if (owners.count(node) == 0)
+            delete node;
+    }
+    EXPECT_EQ(Item::alive, 0) << "destroying a list deletes what it holds";
+}
+
+TEST(DLList, TheCurrentNodeMovesOnWhenItIsTakenOut) {
+    DLList list, other;
+    list.forward();
+    list.backward();
+    EXPECT_EQ(list.current(), nullptr);
+    fill(list, 3);
+    const Nodes abc = nodes(list);
+    EXPECT_EQ(list.current(), abc[0]);
+    list.backward();
+    EXPECT_EQ(list.current(), abc[2]);
+    delete list.remove();
+    EXPECT_EQ(list.current(), abc[0]);
+    EXPECT_EQ(list(1), abc[1]);
+    EXPECT_EQ(list.current(), abc[1]);
+    EXPECT_EQ(list(2), nullptr);
+    EXPECT_EQ(list.current(), nullptr);
+    other.join(list);
+    EXPECT_EQ(other.current(), abc[0]);
+    EXPECT_EQ(list.current(), nullptr);
+}
+
+TEST(DLList, JoinedNodesKeepTheirOldOwner) {
+    DLList list, other;
+    Item *const a = new Item, *const b = new Item, *const c = new Item;
+    list.insert(*a);
+    other.insert(*b);
+    list.join(other);
+    list.remove(*b);
+    other.insert(*c);
+    other.remove(*b); // not in it any more, although it is the owner
+    other.insert(*b);
+    EXPECT_EQ(nodes(list), Nodes({a, b}));
+    EXPECT_EQ(nodes(other), Nodes({c}));
+    EXPECT_EQ(list.remove(list.find(*b)), b);
+    other.insert(*b);
+    EXPECT_EQ(nodes(other), Nodes({c, b}));
+}
+
+TEST(DLList, ANodeDeletedInTheListStillCounts) {
+    DLList list;
+    fill(list, 3);
+    const Nodes abc = nodes(list);
+    delete abc[1];
+    EXPECT_EQ(nodes(list), Nodes({abc[0], abc[2]}));
+    EXPECT_EQ(list.length(), 3);
+    EXPECT_EQ(list.remove(2), nullptr) << "round to the head";
+    EXPECT_EQ(list[2], abc[0]) << "round to the head";
+}
+
+TEST(DLList, CopiesOfNodesAreFree) {
+    DLList list;
+    auto* const original = new Item;
+    list.insert(*original);
+    Item copy(*original);
+    list.insert(copy);
+    copy = *original;
+    EXPECT_EQ(nodes(list), Nodes({original, &copy}));
+    list.remove(copy);
+}
+
+TEST(DLList, ApplyStopsAtZeroAndEndsWhateverTheVisitorDoes) {
+    using Visit = int (*)(DLLNode&, void*);
+    static int visits;
+    const struct {
+        Visit visit;
+        int visits, found, left;
+    } rows[] = {
+        {[](DLLNode&, void*) { return ++visits; }, 3, -1, 3},
+        {[](DLLNode&, void*) { return ++visits == 2 ? 0 : -1; }, 2, 1, 3},
+        {[](DLLNode& node, void* list) {
+             static_cast<DLList*>(list)->remove(node);
+             delete &node;
+             return ++visits;
+         },
+         3, -1, 0},
+        {[](DLLNode& node, void* list) { // turns the ring
+             ++visits;
+             return static_cast<DLList*>(list)->setHead(&static_cast<DLList*>(list)->succ(node));
+         },
+         3, -1, 3},
+        {nullptr, 0, -1, 3},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(&row - rows);
+        DLList list;
+        visits = 0;
+        EXPECT_EQ(list.apply(row.visit, &list), nullptr) << "of an empty list";
+        fill(list, 3);
+        DLLNode* const second = list[1];
+        EXPECT_EQ(list.apply(row.visit, &list), row.found == 1 ? second : nullptr);
+        EXPECT_EQ(visits, row.visits);
+        EXPECT_EQ(list.length(), row.left);
+    }
+}
+
+TEST(Stack, GivesTheLastPushedFirst) {
+    Stack stack;
+    EXPECT_EQ(stack.pop(), nullptr);
+    EXPECT_EQ(stack.inspect(), nullptr);
+    EXPECT_EQ(stack.isTail(nullptr), 1);
+    Item a, b, c;
+    for (Item* const item : {&a, &b, &c})
+        stack.push(*item);
+    EXPECT_EQ(stack.isHead(&c), 1);
+    for (Item* const item : {&c, &b, &a}) {
+        EXPECT_EQ(stack.inspect(), item);
+        EXPECT_EQ(stack.pop(), item);
+    }
+    EXPECT_EQ(stack.isEmpty(), 1);
+}
+
+} // namespace

@@ -1,0 +1,209 @@
+#include "tests/slots.h"
+
+#include <zarnex/containers/ZGroup.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <climits>
+#include <cstdint>
+#include <cstring>
+#include <memory>
+#include <vector>
+
+namespace {
+
+struct Item : ZGroupable {};
+
+using Items = std::vector<ZGroupable*>;
+
+Items members(ZGroup& group) {
+    const ZList<ZGroupable*> list = group.getItemList();
+    return Items(list.begin(), list.end());
+}
+
+void add(ZGroup& group, const Items& items) {
+    for (ZGroupable* const item : items)
+        EXPECT_EQ(group.addItem(item), 0);
+}
+
+// The items that the group passes to a visitor.
+Items visited(ZGroup& group, void (ZGroup::*walk)(void (*)(ZGroupable*))) {
+    static Items seen;
+    seen.clear();
+    (group.*walk)(nullptr);
+    (group.*walk)([](ZGroupable* item) { seen.push_back(item); });
+    return seen;
+}
+
+TEST(ZGroup, FieldsAndSlotsStandInTheirOrderAndRoomGrowsBy32) {
+    struct {
+        const void *table, *parent, *items;
+        std::int32_t capacity, count;
+    } fields;
+    static_assert(sizeof fields == sizeof(ZGroup) && sizeof(Item) == 2 * sizeof(void*));
+    EXPECT_EQ(slotOf(&ZGroupable::isGroup), 2);
+    const struct {
+        int asked, room, later;
+    } rows[] = {{0, 1, 33}, {1, 1, 33}, {40, 40, 40}, {-1, 0, 32}, {INT_MIN, 0, 32}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.asked);
+        Item first, second;
+        ZGroup group(row.asked), outer(1);
+        add(outer, {&group});
+        std::memcpy(&fields, static_cast<const void*>(&group), sizeof fields);
+        EXPECT_EQ(fields.capacity, row.room);
+        add(group, {&first, &second});
+        std::memcpy(&fields, static_cast<const void*>(&group), sizeof fields);
+        EXPECT_EQ(fields.capacity, row.later);
+        EXPECT_EQ(fields.count, 2);
+        EXPECT_EQ(fields.parent, &outer);
+        EXPECT_EQ(members(group), Items({&first, &second}));
+    }
+}
+
+TEST(ZGroup, RefusesWhatIsInAGroupAlreadyAndItself) {
+    Item free, held, foreign;
+    ZGroup group(4), other(4);
+    add(group, {&held});
+    add(other, {&foreign});
+    const struct {
+        ZGroupable* item;
+        int added, removed, index;
+    } rows[] = {{nullptr, -1, -1, -1}, {&group, -1, -1, -1}, {&foreign, -1, -1, -1},
+                {&free, 0, 0, 1},      {&other, 0, 0, 1},    {&held, -1, 0, 0}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(&row - rows);
+        EXPECT_EQ(group.addItem(row.item), row.added);
+        EXPECT_EQ(group.itemToIndex(row.item), row.index);
+        EXPECT_EQ(group.removeItem(row.item), row.removed);
+        EXPECT_EQ(group.removeItem(row.item), -1);
+        EXPECT_EQ(group.size(), row.item == &held ? 0 : 1);
+    }
+    EXPECT_EQ(held.getParent(), nullptr);
+    EXPECT_EQ(foreign.getPatriarch(), &other);
+}
+
+TEST(ZGroup, RemovalMovesTheLastMemberToTheVacantPlace) {
+    Item a, b, c;
+    ZGroup group(0);
+    add(group, {&a, &b, &c});
+    EXPECT_EQ(group.removeItem(&a), 0);
+    EXPECT_EQ(members(group), Items({&c, &b}));
+    EXPECT_EQ(visited(group, &ZGroup::apply), Items({&c, &b}));
+    for (const int index : {INT_MIN, -1, 2, INT_MAX})
+        EXPECT_EQ(group.indexToItem(index), nullptr) << index;
+    EXPECT_EQ(group.indexToItem(1), &b);
+    group.emptyGroup();
+    EXPECT_EQ(group.size(), 0);
+    add(group, {&b, &c, &a});
+}
+
+TEST(ZGroup, TraversePassesLeavesAndEndsInCirclesAndDepths) {
+    Item leaves[4];
+    ZGroup group(1), inner(1), empty(1);
+    add(group, {&leaves[0], &inner, &empty, &leaves[3]});
+    add(inner, {&leaves[1], &leaves[2]});
+    const Items depthFirst{&leaves[0], &leaves[1], &leaves[2], &leaves[3]};
+    EXPECT_EQ(visited(group, &ZGroup::traverse), depthFirst);
+    EXPECT_EQ(visited(group, &ZGroup::apply), Items({&leaves[0], &inner, &empty, &leaves[3]}));
+    EXPECT_EQ(inner.addItem(&group), 0) << "a circle is not noticed";
+    EXPECT_EQ(visited(group, &ZGroup::traverse), depthFirst);
+
+    Item leaf;
+    std::vector<std::unique_ptr<ZGroup>> nested;
+    nested.push_back(std::make_unique<ZGroup>(0));
+    for (int i = 0; i < 200000; ++i) {
+        nested.push_back(std::make_unique<ZGroup>(0));
+        nested[nested.size() - 2]->addItem(nested.back().get());
+    }
+    nested.back()->addItem(&leaf);
+    EXPECT_EQ(visited(*nested.front(), &ZGroup::traverse), Items({&leaf}));
+    EXPECT_EQ(leaf.getPatriarch(), nested.front().get());
+}
+
+TEST(ZGroup, PatriarchsOfCirclesAreOnThem) {
+    for (std::size_t tail = 0; tail < 8; ++tail) {
+        for (std::size_t circle = 2; circle < 10; ++circle) {
+            SCOPED_TRACE(testing::Message() << tail << " to a circle of " << circle);
+            std::vector<std::unique_ptr<ZGroup>> groups;
+            for (std::size_t i = 0; i < tail + circle; ++i)
+                groups.push_back(std::make_unique<ZGroup>(1));
+            for (std::size_t i = 1; i < groups.size(); ++i)
+                add(*groups[i], {groups[i - 1].get()});
+            add(*groups[tail], {groups.back().get()});
+            const ZGroup* const patriarch = groups[0]->getPatriarch();
+            EXPECT_TRUE(std::any_of(groups.begin() + int(tail), groups.end(),
+                                    [&](const auto& group) { return group.get() == patriarch; }));
+        }
+    }
+}
+
+TEST(ZGroup, GroupsAndMembersMayGoInAnyOrder) {
+    auto leaf = std::make_unique<Item>();
+    auto inner = std::make_unique<ZGroup>(1);
+    auto outer = std::make_unique<ZGroup>(1);
+    Item other;
+    add(*outer, {inner.get(), &other});
+    add(*inner, {leaf.get()});
+    inner.reset(); // leaves its members and its group
+    EXPECT_EQ(leaf->getParent(), nullptr);
+    EXPECT_EQ(members(*outer), Items({&other}));
+    add(*outer, {leaf.get()});
+    leaf.reset();
+    EXPECT_EQ(members(*outer), Items({&other}));
+    Item copy(other);
+    other = copy;
+    EXPECT_EQ(copy.getParent(), nullptr);
+    EXPECT_EQ(other.getParent(), outer.get());
+    outer.reset();
+    EXPECT_EQ(other.getParent(), nullptr);
+}
+
+TEST(ZGroupable, ComparesAsSiblings) {
+    Item a, b, c, loose, looser;
+    ZGroup group(2), inner(2), other(2), free(2);
+    add(group, {&a, &b, &inner});
+    add(other, {&c});
+    const struct {
+        ZGroupable *one, *two;
+        int equal;
+    } rows[] = {{&a, &a, 1},        {&a, &b, 1},          {&a, &c, 0},
+                {&a, &inner, 0},    {&loose, &looser, 1}, {&a, &loose, 0},
+                {&free, &other, 1}, {&loose, &free, 0},   {&a, nullptr, 0}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(&row - rows);
+        const ZGroupable* const constant = row.two;
+        EXPECT_EQ(*row.one == row.two, row.equal);
+        EXPECT_EQ(*row.one != row.two, !row.equal);
+        EXPECT_EQ(*row.one != constant, !row.equal);
+    }
+    ZGroup* const derived = &inner;
+    EXPECT_FALSE(a == derived || !(a != derived) || a == nullptr || !(a != nullptr));
+}
+
+TEST(ZGroup, ComparesItsMembers) {
+    Item a, b;
+    ZGroup one(1), two(1), empty(1), bare(-1);
+    add(one, {&a});
+    add(two, {&b});
+    const struct {
+        ZGroup *one, *two;
+        int equal;
+    } rows[] = {{&one, &one, 1},    {&one, &two, 0},   {&one, &empty, 0},
+                {&empty, &bare, 1}, {&empty, &one, 0}, {&empty, nullptr, 0}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(&row - rows);
+        const ZGroup& group = *row.one;
+        const ZGroup* const constant = row.two;
+        EXPECT_EQ(*row.one == row.two, row.equal);
+        EXPECT_EQ(group == row.two, row.equal);
+        EXPECT_EQ(*row.one != row.two, !row.equal);
+        EXPECT_EQ(group != constant, !row.equal);
+    }
+    EXPECT_FALSE(one == nullptr || !(one != nullptr));
+    const ZList<ZGroup*> list{&one, &two};
+    EXPECT_EQ(list.find(&two), 1) << "lists compare the pointers";
+}
+
+} // namespace

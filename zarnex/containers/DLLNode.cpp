@@ -1,0 +1,6 @@
+#include <zarnex/containers/DLLNode.h>
+
+DLLNode::~DLLNode() {
+    prev_->next_ = next_;
+    next_->prev_ = prev_;
+}

@@ -1,0 +1,3 @@
+#include <zarnex/containers/Stack.h>
+
+Stack::~Stack() = default;
