@@ -10,8 +10,8 @@
 namespace {
 
 struct Sort {
-    QSort::Callback& callback;
-    std::exception_ptr failure; // what the callback threw
+    QSort::Callback* callback;  // null once it has thrown
+    std::exception_ptr failure; // what it threw
 };
 
 // The sort in progress, guarded by the sort lock; null between sorts.
@@ -20,11 +20,13 @@ Sort* current = nullptr;
 extern "C" int compareElements(const void* a, const void* b) {
     // An exception must not cross the C library: it waits until the sort has run out, with
     // all elements equal.
-    if (current->failure != nullptr)
+    QSort::Callback* const callback = current->callback;
+    if (callback == nullptr)
         return 0;
     try {
-        return current->callback.compare(a, b);
+        return callback->compare(a, b);
     } catch (...) {
+        current->callback = nullptr;
         current->failure = std::current_exception();
         return 0;
     }
@@ -39,7 +41,7 @@ void QSort::sort(void* base, std::size_t count, std::size_t size, Callback& cb) 
         count > (std::numeric_limits<std::size_t>::max)() / size)
         return;
 
-    Sort run{cb, nullptr};
+    Sort run{&cb, nullptr};
     {
         const MiniGuard guard(zarnex::detail::sortLock());
         Sort* const outer = current; // of the callback that called us, if any
