@@ -9,6 +9,7 @@
 #include <cstring>
 #include <map>
 #include <memory>
+#include <optional>
 #include <random>
 #include <vector>
 
@@ -159,6 +160,20 @@ TEST(DLList, JoinedNodesKeepTheirOldOwner) {
     EXPECT_EQ(list.remove(list.find(*b)), b);
     other.insert(*b);
     EXPECT_EQ(nodes(other), Nodes({c, b}));
+}
+
+TEST(DLList, ANewListAtAnOldOwnersAddressDoesNotOwnItsNodes) {
+    DLList list;
+    std::optional<DLList> owner(std::in_place);
+    Item* const a = new Item;
+    owner->insert(*a);
+    list.join(*owner);
+    owner.emplace(); // at the same address
+    Item* const b = new Item;
+    owner->insert(*b);
+    owner->remove(*a);
+    EXPECT_EQ(nodes(list), Nodes({a}));
+    EXPECT_EQ(nodes(*owner), Nodes({b}));
 }
 
 TEST(DLList, ANodeDeletedInTheListStillCounts) {

@@ -167,7 +167,7 @@ void expectEquality(Object& one, Object* two, int equal) {
     EXPECT_EQ(one == two, equal);
     EXPECT_EQ(one != two, !equal);
     EXPECT_EQ(one != constant, !equal);
-    EXPECT_FALSE(one == nullptr || !(one != nullptr));
+    EXPECT_FALSE(one == nullptr || !(one != nullptr) || !(one != 0) || !(one != NULL));
 }
 
 TEST(ZGroupable, ComparesAsSiblings) {

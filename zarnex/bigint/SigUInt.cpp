@@ -19,28 +19,27 @@ constexpr long long mostLimbs = mostBits / limbBits + 1;
 template <class Digit>
 constexpr int digitsPerLimb = limbBits / std::numeric_limits<Digit>::digits;
 
-// Takes leading zeros off the digits and returns the number of limbs that the rest fills; 0
-// without digits and for too many.
+// Drops the leading zeros of `digits`, and says how many limbs the others fill: none if
+// there are none or too many.
 template <class Digit>
-int dropLeadingZeros(const Digit*& digits, int& count) {
-    while (digits != nullptr && count > 0 && *digits == 0) {
+int limbsOf(const Digit*& digits, int& count) {
+    if (digits == nullptr)
+        count = 0;
+    for (; count > 0 && *digits == 0; --count)
         ++digits;
-        --count;
-    }
-    const bool none = digits == nullptr || count <= 0;
-    if (none || count > mostLimbs * digitsPerLimb<Digit>)
+    if (count <= 0 || count > mostLimbs * digitsPerLimb<Digit>)
         return 0;
     return (count - 1) / digitsPerLimb<Digit> + 1;
 }
 
+// Writes digits, most significant first, into `size` limbs.
 template <class Digit>
 void packDigits(Limb* limbs, int size, const Digit* digits, int count) {
-    for (int i = 0; i < size; ++i) {
+    for (int i = 0; i < size; ++i, count -= digitsPerLimb<Digit>) {
         Limb limb = 0;
-        for (int end = (std::max)(count - digitsPerLimb<Digit>, 0); end < count; ++end)
-            limb = limb << std::numeric_limits<Digit>::digits | digits[end];
+        for (int k = (std::max)(count - digitsPerLimb<Digit>, 0); k < count; ++k)
+            limb = limb << std::numeric_limits<Digit>::digits | digits[k];
         limbs[i] = limb;
-        count -= digitsPerLimb<Digit>;
     }
 }
 
@@ -49,14 +48,14 @@ void packDigits(Limb* limbs, int size, const Digit* digits, int count) {
 // ---- Storage
 
 SigUInt::SigUInt(const unsigned char* bytes, int count) : SigUInt() {
-    const int size = dropLeadingZeros(bytes, count);
+    const int size = limbsOf(bytes, count);
     reserve(size);
     packDigits(limbs_, size, bytes, count);
     setSize(size);
 }
 
 SigUInt::SigUInt(const unsigned short* words, int count) : SigUInt() {
-    const int size = dropLeadingZeros(words, count);
+    const int size = limbsOf(words, count);
     reserve(size);
     packDigits(limbs_, size, words, count);
     setSize(size);

@@ -1,9 +1,28 @@
 #include <zarnex/containers/DLList.h>
 
+#include <atomic>
 #include <utility>
+
+namespace {
+
+// Whether a list is gone that nodes elsewhere may still name as their owner. A new list at its
+// address must not take them for its own.
+std::atomic<bool> someOwnersAreGone = false;
+
+} // namespace
 
 DLList::~DLList() {
     clear();
+    if (hasLostNodes_)
+        someOwnersAreGone.store(true, std::memory_order_relaxed);
+}
+
+void DLList::remove(DLLNode& n) {
+    if (head_ == nullptr || n.owner_ != this)
+        return;
+    const bool mayBeElsewhere = hasLostNodes_ || someOwnersAreGone.load(std::memory_order_relaxed);
+    if (!mayBeElsewhere || find(n) >= 0)
+        unlink(n);
 }
 
 int DLList::find(DLLNode& n) {

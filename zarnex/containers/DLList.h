@@ -7,8 +7,9 @@
 ///
 /// The list makes no nodes and copies none; it takes those that a host made with `new`, and
 /// deletes the ones that it still holds when it is destroyed. Adding at either end, removing
-/// a node and joining lists take constant time; everything that names a position or searches
-/// walks from the head. Not safe for concurrent use.
+/// a node and joining lists take constant time (from a list that was joined to another, and once
+/// such a list is destroyed, removing a node searches for it); everything that names a position or
+/// searches walks from the head. Not safe for concurrent use.
 ///
 ///     class Stitch : public DLLNode { ... };
 ///
@@ -181,11 +182,6 @@ ZARNEX_INLINE DLLNode* DLList::remove(int i) {
 
 ZARNEX_INLINE DLLNode* DLList::remove() {
     return head_ != nullptr ? unlink(*head_->prev_) : nullptr;
-}
-
-ZARNEX_INLINE void DLList::remove(DLLNode& n) {
-    if (head_ != nullptr && n.owner_ == this && (!hasLostNodes_ || find(n) >= 0))
-        unlink(n);
 }
 
 ZARNEX_INLINE DLLNode* DLList::operator[](int i) const {

@@ -35,6 +35,7 @@ public:
     /// comes out of this call; the elements are then all there, in an order left open.
     ///
     /// Only one sort runs at a time in the process; another thread's waits. `cb` may sort
-    /// something else itself. It must not wait for a thread that sorts.
+    /// something else itself. It must not wait for a thread that sorts,
+    /// nor end its own thread. Quantities that it reads from text take a lock of their own.
     static void sort(void* base, std::size_t count, std::size_t size, Callback& cb);
 };

@@ -6,8 +6,6 @@
 #include <limits>
 #include <vector>
 
-template class ZList<ZGroup*>;
-
 namespace {
 
 constexpr int growth = 32; // members

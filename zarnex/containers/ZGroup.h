@@ -4,7 +4,7 @@
 #include <zarnex/containers/ZGroupable.h>
 #include <zarnex/containers/ZList.h>
 
-#include <cstddef>
+#include <type_traits>
 
 /// An ordered set of items, which may be groups themselves, so that groups form trees.
 ///
@@ -19,7 +19,7 @@ class ZARNEX_API ZGroup : public ZGroupable {
 public:
     /// An empty group with room for `n` items; 0 counts as 1. Without room for a negative
     /// `n` and where there is no memory for as many; the room grows as needed anyway.
-    explicit ZGroup(int n);
+    ZGroup(int n);
     ZGroup(const ZGroup&) = delete;
     ZGroup& operator=(const ZGroup&) = delete;
 
@@ -58,14 +58,16 @@ public:
 
     /// Calls `visit` with each member, in order. A null `visit` is not called.
     ///
-    /// A member that `visit` takes out hands its place to the last one, which is left out.
+    /// `visit` must not delete this group. A member that it takes out hands its place to the last
+    /// one, which is left out.
     void apply(void (*visit)(ZGroupable*));
 
     /// Calls `visit` with each item in this group and in the groups inside it, depth first
     /// and in order: a group is not passed, its members stand in its place. A null `visit` is
     /// not called.
     ///
-    /// `visit` must not delete groups; for a member that it takes out see apply().
+    /// `visit` must not delete groups or put groups into others; for a member that it takes out see
+    /// apply().
     void traverse(void (*visit)(ZGroupable*));
 
     /// The members, in order.
@@ -80,7 +82,11 @@ public:
 
     /// The same; see ZGroupable.
     int operator!=(ZGroup* other) const;
-    int operator!=(std::nullptr_t) const;
+    template <class Null,
+              std::enable_if_t<std::is_null_pointer_v<Null> || std::is_integral_v<Null>, int> = 0>
+    int operator!=(Null) const {
+        return 1;
+    }
 
 private:
     int grow(); ///< makes room for more; 0 if there is no memory
@@ -116,9 +122,3 @@ ZARNEX_INLINE int ZGroup::operator!=(ZGroup* other) const {
 ZARNEX_INLINE int ZGroup::operator==(ZGroup* other) const {
     return (*this != other) == 0;
 }
-
-ZARNEX_INLINE int ZGroup::operator!=(std::nullptr_t) const {
-    return 1;
-}
-
-extern template class ZARNEX_API ZList<ZGroup*>;

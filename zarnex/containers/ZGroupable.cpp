@@ -2,6 +2,7 @@
 
 #include <zarnex/containers/ZGroup.h>
 
+template class ZList<ZGroup*>;
 template class ZList<ZGroupable*>;
 
 ZGroupable::~ZGroupable() {

@@ -3,7 +3,7 @@
 #include <zarnex/config.h>
 #include <zarnex/containers/ZList.h>
 
-#include <cstddef>
+#include <type_traits>
 
 class ZGroup;
 
@@ -35,7 +35,11 @@ public:
 
     /// The same. Without an exact match C++20 would make != from ==, whose result is no bool.
     int operator!=(ZGroupable* other);
-    int operator!=(std::nullptr_t);
+    template <class Null,
+              std::enable_if_t<std::is_null_pointer_v<Null> || std::is_integral_v<Null>, int> = 0>
+    int operator!=(Null) {
+        return 1;
+    }
 
 protected:
     ZGroupable();
@@ -70,10 +74,6 @@ ZARNEX_INLINE int ZGroupable::operator!=(ZGroupable* other) {
     return (*this == other) == 0;
 }
 
-ZARNEX_INLINE int ZGroupable::operator!=(std::nullptr_t) {
-    return 1;
-}
-
 ZARNEX_INLINE void ZGroupable::gainedParent(ZGroup* parent) {
     parent_ = parent;
 }
@@ -82,4 +82,5 @@ ZARNEX_INLINE void ZGroupable::lostParent() {
     parent_ = nullptr;
 }
 
+extern template class ZARNEX_API ZList<ZGroup*>;
 extern template class ZARNEX_API ZList<ZGroupable*>;

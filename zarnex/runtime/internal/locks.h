@@ -4,7 +4,8 @@
 ///
 /// Each is made at its first use and never destroyed, so that the static
 /// constructors, static destructors and exit handlers of hosts can use what it
-/// guards. No code path holds two of them at once.
+/// guards. The library itself never holds two of them at once; a host's callback of
+/// QSort::sort() that takes another does.
 
 class MiniLock;
 
