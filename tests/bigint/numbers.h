@@ -33,11 +33,13 @@ inline SigUInt fromHex(std::string digits) {
     return SigUInt(bytes.data(), static_cast<int>(bytes.size()));
 }
 
-/// A number of at most `bits` bits, in long runs of ones and zeros about every other time.
-inline SigUInt randomNumber(std::mt19937_64& random, int bits) {
+/// A number of a random length below `most` bits, every other time in long runs of ones
+/// and zeros.
+inline SigUInt randomNumber(std::mt19937_64& random, int most) {
+    const int bits = static_cast<int>(random() % 1000003) % most;
     const bool runs = random() % 2 != 0;
     SigUInt number;
-    for (int taken = 0; taken < bits; taken += 64)
+    while (number.bitLength() < bits)
         number = (number << 64) + (runs ? 0 - (random() & 1) : random());
-    return number >> static_cast<int>(random() % 64);
+    return number >> (number.bitLength() - bits);
 }

@@ -16,40 +16,49 @@ namespace {
 constexpr long long mostBits = (std::numeric_limits<int>::max)();
 constexpr long long mostLimbs = mostBits / limbBits + 1;
 
+template <class Digit>
+constexpr int digitsPerLimb = limbBits / std::numeric_limits<Digit>::digits;
+
+// Drops the leading zeros of `digits`, and says how many limbs the others fill: none if
+// there are none or too many.
+template <class Digit>
+int limbsOf(const Digit*& digits, int& count) {
+    if (digits == nullptr)
+        count = 0;
+    for (; count > 0 && *digits == 0; --count)
+        ++digits;
+    if (count <= 0 || count > mostLimbs * digitsPerLimb<Digit>)
+        return 0;
+    return (count - 1) / digitsPerLimb<Digit> + 1;
+}
+
+// Writes digits, most significant first, into `size` limbs.
+template <class Digit>
+void packDigits(Limb* limbs, int size, const Digit* digits, int count) {
+    for (int i = 0; i < size; ++i, count -= digitsPerLimb<Digit>) {
+        Limb limb = 0;
+        for (int k = (std::max)(count - digitsPerLimb<Digit>, 0); k < count; ++k)
+            limb = limb << std::numeric_limits<Digit>::digits | digits[k];
+        limbs[i] = limb;
+    }
+}
+
 } // namespace
 
 // ---- Storage
 
-template <class Digit>
-void SigUInt::setDigits(const Digit* digits, int count) {
-    if (digits == nullptr)
-        return;
-    while (count > 0 && *digits == 0) {
-        ++digits;
-        --count;
-    }
-    constexpr int digitBits = std::numeric_limits<Digit>::digits;
-    constexpr int digitsPerLimb = limbBits / digitBits;
-    if (count <= 0 || count > mostLimbs * digitsPerLimb)
-        return;
-    const int size = (count - 1) / digitsPerLimb + 1;
+SigUInt::SigUInt(const unsigned char* bytes, int count) : SigUInt() {
+    const int size = limbsOf(bytes, count);
     reserve(size);
-    for (int i = 0; i < size; ++i) {
-        Limb limb = 0;
-        for (int end = (std::max)(count - digitsPerLimb, 0); end < count; ++end)
-            limb = limb << digitBits | digits[end];
-        limbs_[i] = limb;
-        count -= digitsPerLimb;
-    }
+    packDigits(limbs_, size, bytes, count);
     setSize(size);
 }
 
-SigUInt::SigUInt(const unsigned char* bytes, int count) : SigUInt() {
-    setDigits(bytes, count);
-}
-
 SigUInt::SigUInt(const unsigned short* words, int count) : SigUInt() {
-    setDigits(words, count);
+    const int size = limbsOf(words, count);
+    reserve(size);
+    packDigits(limbs_, size, words, count);
+    setSize(size);
 }
 
 SigUInt::SigUInt(const SigUInt& other) : SigUInt() {

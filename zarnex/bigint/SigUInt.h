@@ -47,7 +47,7 @@ constexpr int nearestInt(Number number) {
 ///     a_exp_b_mod_c(3, n - 1, n) == 1   // 1
 ///     n.getHex();                       // "7fffffffffffffffffffffffffffffff"
 ///
-/// Numbers of up to 256 bits hold no storage of their own.
+/// A number of up to 256 bits needs no allocation.
 class ZARNEX_API SigUInt {
 public:
     /// Zero.
@@ -73,18 +73,25 @@ public:
 
     SigUInt& operator+=(const SigUInt& other);
 
-    /// At least zero.
+    /// Kept as is: a difference below zero is zero, although the unsigned integers of the
+    /// language wrap round.
     SigUInt& operator-=(const SigUInt& other);
 
     /// Takes m * n steps for short operands of m and n limbs of 64 bits, and about
     /// n * m^0.585 for long ones, n being the longer.
     SigUInt& operator*=(const SigUInt& other);
 
-    /// The remainder of the division by `other`; zero if that is zero. Takes
-    /// (m - n + 1) * n steps for m limbs over n.
+    /// The remainder of the division by `other`. Takes (m - n + 1) * n steps for m limbs over
+    /// n.
+    ///
+    /// Kept as is: zero if `other` is zero, although mathematics leaves the number as it is
+    /// and the language has no answer.
     SigUInt& operator%=(const SigUInt& other);
 
-    /// Shifts by a negative count go the other way.
+    /// Times 2^bits, and divided by it.
+    ///
+    /// Kept as is: a shift by a negative count goes the other way, although the language
+    /// leaves it undefined. What is shifted up past the longest number is zero.
     SigUInt& operator<<=(int bits);
     SigUInt& operator>>=(int bits);
     SigUInt operator<<(int bits) const;
@@ -111,7 +118,7 @@ public:
     SigUInt& operator++();
     SigUInt operator++(int);
 
-    /// Zero stays zero.
+    /// Kept as is: zero stays zero, as below zero in every difference.
     SigUInt& operator--();
     SigUInt operator--(int);
 
@@ -139,8 +146,6 @@ private:
     friend ZARNEX_API int operator<(const SigUInt& a, const SigUInt& b);
     friend ZARNEX_API SigUInt a_exp_b_mod_c(const SigUInt& a, const SigUInt& b, const SigUInt& c);
 
-    template <class Digit>
-    void setDigits(const Digit* digits, int count);
     void takeFrom(SigUInt& other);
     void release();
     void reserve(long long count);
@@ -181,10 +186,15 @@ ZARNEX_API int operator>=(const SigUInt& a, const SigUInt& b);
 /// `a` to the power of `b`, modulo `c`.
 ///
 /// 0 if `c` is 0 or 1 or has more than 1073741823 bits; else 1 if `b` is 0, also for a zero
-/// `a`. With n limbs of 64 bits in
-/// `c`, about 1.5 * n * n steps for each bit of `b`; an even `c` takes no longer than an odd
-/// one.
+/// `a`. With n limbs of 64 bits in `c`, takes about 1.5 * n * n steps for each bit of `b`,
+/// for an even `c` no more.
 ZARNEX_API SigUInt a_exp_b_mod_c(const SigUInt& a, const SigUInt& b, const SigUInt& c);
+
+// First, since constructors that call others refer to it.
+ZARNEX_INLINE SigUInt::~SigUInt() {
+    if (limbs_ != inside_)
+        release();
+}
 
 ZARNEX_INLINE SigUInt::SigUInt() noexcept : limbs_(inside_), size_(0), room_(insideCount_) {}
 
@@ -197,11 +207,6 @@ ZARNEX_INLINE SigUInt::SigUInt(std::nullptr_t, int) noexcept : SigUInt() {}
 
 ZARNEX_INLINE SigUInt::SigUInt(SigUInt&& other) noexcept : SigUInt() {
     takeFrom(other);
-}
-
-ZARNEX_INLINE SigUInt::~SigUInt() {
-    if (limbs_ != inside_)
-        release();
 }
 
 ZARNEX_INLINE int SigUInt::isZero() const {
