@@ -43,7 +43,7 @@ Key keyOf(const Id& id) {
     return key;
 }
 
-TEST(ZGUIDWrapper, MembersFollowTheGivenOrder) {
+TEST(ZGUIDWrapper, StandsAsGuidFlagAndText) {
     const Id id(bead1);
     const auto* const start = reinterpret_cast<const char*>(&id);
     int valid = 0;
@@ -181,6 +181,7 @@ TEST(ZGUIDWrapper, ComparesFieldByField) {
     for (std::size_t i = 0; i < 8; ++i)
         rows[3 + i].Data4[i] = 0x80;
     const Id a(low), none(0);
+    EXPECT_EQ(none.getString().allocLength(), 1); // nothing behind the empty text
     for (std::size_t i = 0; i < rows.size(); ++i) {
         SCOPED_TRACE(i);
         const Id b(rows[i]), next(rows[(i + 1) % rows.size()]);

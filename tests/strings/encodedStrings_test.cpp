@@ -106,6 +106,10 @@ TYPED_TEST(Encoded, AppendsAndTakesTextFromInside) {
     EXPECT_EQ(this->units(string).substr(60), this->text("23452345"));
     string = &reader[66];
     EXPECT_EQ(this->units(string), this->text("45"));
+    string += "";
+    string += "mm"; // of bytes, whatever the class
+    EXPECT_EQ(this->units(string), this->text("45mm"));
+    string.resize(2);
     string.set(this->text("<%s>").c_str(), &reader[0]);
     EXPECT_EQ(this->units(string), this->text("<45>"));
 }

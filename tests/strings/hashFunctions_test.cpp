@@ -102,6 +102,8 @@ TEST(ZHashInt, HoldsAndHashesAnInteger) {
         EXPECT_EQ(IntHashFunction()(key), row.hash);
         EXPECT_EQ(key.getInt(), row.value);
         EXPECT_EQ(int(ZHashInt(key)), row.value);
+        const auto sameBits = static_cast<unsigned long long>(row.value); // of a greater number
+        EXPECT_EQ(key == sameBits, row.value >= 0);
         EXPECT_TRUE(key == ZHashInt(row.value) && !(key != ZHashInt(row.value)));
         EXPECT_TRUE(key == row.value && row.value == key && key != row.value + 1LL && 5L != key);
     }

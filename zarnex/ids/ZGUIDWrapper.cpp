@@ -43,10 +43,9 @@ bool isAnyFieldLess(const GUID& a, const GUID& b) {
 } // namespace
 
 ZGUIDWrapper::ZGUIDWrapper(int create) : valid_(create) {
-    if (create != 0) {
+    if (create != 0)
         createGuid(guid_);
-        updateString();
-    }
+    updateString();
 }
 
 ZGUIDWrapper::ZGUIDWrapper(GUID& guid) : ZGUIDWrapper(std::as_const(guid)) {}

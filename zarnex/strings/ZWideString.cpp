@@ -185,6 +185,10 @@ ZWideString& ZWideString::operator+=(const wchar_t* text) {
     return *this;
 }
 
+ZWideString& ZWideString::operator+=(const char* text) {
+    return *this += ZWideString(text);
+}
+
 ZWideString& ZWideString::operator+=(const ZString& text) {
     return *this += static_cast<const wchar_t*>(text);
 }

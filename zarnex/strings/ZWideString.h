@@ -120,6 +120,7 @@ public:
     ZWideString& operator+=(const ZWideString& text);
     ZWideString& operator+=(const wchar_t* text);
     ZWideString& operator+=(const ZString& text);
+    ZWideString& operator+=(const char* text); ///< in the system code page
 
     /// Sets the slots in use to `n` + 1 and terminates the last; negative is 0. Cuts
     /// the text, or leaves it as it is when it is shorter.
@@ -152,6 +153,12 @@ ZARNEX_API int operator<(const wchar_t* a, const ZWideString& b);
 ZARNEX_API int operator>(const wchar_t* a, const ZWideString& b);
 ZARNEX_API int operator<=(const wchar_t* a, const ZWideString& b);
 ZARNEX_API int operator>=(const wchar_t* a, const ZWideString& b);
+
+// The rules of the two classes differ: say which is meant by converting one side.
+int operator<(const ZString& a, const ZWideString& b) = delete;
+int operator>(const ZString& a, const ZWideString& b) = delete;
+int operator<=(const ZString& a, const ZWideString& b) = delete;
+int operator>=(const ZString& a, const ZWideString& b) = delete;
 
 ZARNEX_INLINE const wchar_t& ZWideString::operator[](int i) const {
     return array_.get(i);

@@ -22,8 +22,8 @@
 ///   Linux has U+FFFD.
 ///
 /// Texts end at their terminator. The slots in use of a result are its length + 1. Nothing
-/// throws, locks or depends on the locale; without memory the process ends with "failed
-/// alloc" and status 1.
+/// throws or depends on the locale, and UTF-8 takes no lock; on Linux the other code pages
+/// take the C library's. Without memory the process ends with "failed alloc" and status 1.
 ///
 ///     const ZMultiByteString sent = strToUtf8(L"\u00E9");   // C3 A9
 ///     const ZString received = utf8ToStr(sent);

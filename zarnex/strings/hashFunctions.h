@@ -2,10 +2,10 @@
 
 /// Hashing policies for tables of strings and of integers.
 ///
-/// The three string functors differ in their hash alone and can stand in for each other.
-/// A code unit is the low 16 bits of a character; unlike ZString::hash() and `==` of
-/// strings, all of them tell upper from lower case. Arithmetic is on 32-bit integers that
-/// wrap, and results are 32-bit values on every platform.
+/// The three string functors are made alike; HashFunction1 and HashFunction2 reduce to the
+/// size of a table, HashFunction3 takes it and ignores it. A code unit is the low 16 bits of a
+/// character; unlike ZString::hash() and `==` of strings, all of them tell upper from lower case.
+/// Arithmetic is on 32-bit integers that wrap, and results are 32-bit values on every platform.
 ///
 ///     const HashFunction2 slotOf(101);
 ///     table[slotOf(L"blank")];           // 0 ... 100
@@ -118,7 +118,10 @@ ZARNEX_INLINE long IntHashFunction::operator()(const ZHashInt& key) const {
 
 template <class Integer, std::enable_if_t<std::is_integral_v<Integer>, int> = 0>
 int operator==(const ZHashInt& a, Integer b) {
-    return static_cast<long long>(a.getInt()) == static_cast<long long>(b);
+    if constexpr (std::is_unsigned_v<Integer>)
+        return a.getInt() >= 0 && static_cast<unsigned long long>(a.getInt()) == b;
+    else
+        return a.getInt() == static_cast<long long>(b);
 }
 template <class Integer, std::enable_if_t<std::is_integral_v<Integer>, int> = 0>
 int operator==(Integer a, const ZHashInt& b) {

@@ -13,7 +13,8 @@
 namespace zarnex::platform {
 
 /// bytesToWide() and wideToBytes() for a code page that is not UTF-8. Thread-safe: each
-/// call opens a descriptor of its own, in less than a microsecond.
+/// call opens a descriptor of its own, for which the C library takes a lock and, the first
+/// time, loads its table.
 int codePageToWide(unsigned int codePage, const char* text, int count, wchar_t* out, int room);
 int wideToCodePage(unsigned int codePage, const wchar_t* text, int count, char* out, int room);
 
