@@ -1,0 +1,22 @@
+#pragma once
+
+#include "Suite.h"
+
+namespace bench {
+
+// The rows of each topic; the bodies stand in rows/.
+
+void listRows(Suite& suite);
+void arrayRows(Suite& suite);
+void sortRows(Suite& suite);
+void stringRows(Suite& suite);
+void encodingRows(Suite& suite);
+void quantityRows(Suite& suite);
+void pointRows(Suite& suite);
+void geometryRows(Suite& suite);
+void transformRows(Suite& suite);
+void randomRows(Suite& suite);
+void identifierRows(Suite& suite);
+void bigIntegerRows(Suite& suite);
+
+} // namespace bench

@@ -1,0 +1,9 @@
+#include "../rows.h"
+
+namespace bench {
+
+void arrayRows(Suite& suite) {
+    suite.topic("array");
+}
+
+} // namespace bench

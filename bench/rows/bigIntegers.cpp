@@ -1,0 +1,9 @@
+#include "../rows.h"
+
+namespace bench {
+
+void bigIntegerRows(Suite& suite) {
+    suite.topic("big integers");
+}
+
+} // namespace bench

@@ -1,0 +1,9 @@
+#include "../rows.h"
+
+namespace bench {
+
+void encodingRows(Suite& suite) {
+    suite.topic("encodings");
+}
+
+} // namespace bench

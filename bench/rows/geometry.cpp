@@ -1,0 +1,9 @@
+#include "../rows.h"
+
+namespace bench {
+
+void geometryRows(Suite& suite) {
+    suite.topic("geometry");
+}
+
+} // namespace bench

@@ -1,0 +1,9 @@
+#include "../rows.h"
+
+namespace bench {
+
+void sortRows(Suite& suite) {
+    suite.topic("sorting");
+}
+
+} // namespace bench

@@ -1,0 +1,9 @@
+#include "../rows.h"
+
+namespace bench {
+
+void stringRows(Suite& suite) {
+    suite.topic("ZString");
+}
+
+} // namespace bench

@@ -1,0 +1,9 @@
+#include "../rows.h"
+
+namespace bench {
+
+void transformRows(Suite& suite) {
+    suite.topic("transforms");
+}
+
+} // namespace bench
