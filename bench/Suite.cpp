@@ -1,31 +1,12 @@
 #include "Suite.h"
 
+#include "text.h"
+
 #include <utility>
 
 namespace bench {
 
 namespace {
-
-/// printf into a string.
-template <class... Arguments>
-std::string text(const char* format, Arguments... arguments) {
-    char buffer[256];
-    std::snprintf(buffer, sizeof buffer, format, arguments...);
-    return buffer;
-}
-
-/// Nanoseconds with three digits in a unit that fits.
-std::string time(double nanoseconds) {
-    const char* unit = "ns";
-    for (const char* larger : {"µs", "ms", "s"}) {
-        if (nanoseconds < 999.5)
-            break;
-        nanoseconds /= 1000.0;
-        unit = larger;
-    }
-    const int decimals = nanoseconds < 9.995 ? 2 : nanoseconds < 99.95 ? 1 : 0;
-    return text("%.*f %s", decimals, nanoseconds, unit);
-}
 
 /// The sides that are not `hardest`: "Boost 0.52, Qt 0.31".
 std::string others(const Row& row, const Row::Figures* hardest, bool counting) {

@@ -1,5 +1,7 @@
 /// Measures the library against what its users would otherwise pick.
 
+#include "Growth.h"
+#include "peers.h"
 #include "rows.h"
 
 #include <cstdio>
@@ -11,9 +13,11 @@ namespace {
 
 constexpr const char* usage =
     "Usage: zarnex-bench [--rounds N] [--markdown FILE] [FILTER]\n"
+    "       zarnex-bench --peers\n"
     "\n"
     "Measures the rows whose \"topic: name\" contains FILTER, or all. A ratio is ours/peer:\n"
-    "the median over the rounds, with quartiles. Status 1 if two sides of a row disagree.\n";
+    "the median over the rounds, with quartiles. Status 1 if two sides of a row disagree.\n"
+    "--peers tells which peers this program was built with.\n";
 
 constexpr void (*topics[])(bench::Suite&) = {
     bench::listRows,      bench::arrayRows,    bench::sortRows,       bench::stringRows,
@@ -29,7 +33,10 @@ int main(int count, char** arguments) {
     std::string filter;
     for (int i = 1; i < count; ++i) {
         const bool hasValue = i + 1 < count;
-        if (std::strcmp(arguments[i], "--rounds") == 0 && hasValue) {
+        if (std::strcmp(arguments[i], "--peers") == 0) {
+            std::puts(bench::peers().c_str());
+            return 0;
+        } else if (std::strcmp(arguments[i], "--rounds") == 0 && hasValue) {
             rounds = std::atoi(arguments[++i]);
         } else if (std::strcmp(arguments[i], "--markdown") == 0 && hasValue) {
             markdownName = arguments[++i];
@@ -58,13 +65,18 @@ int main(int count, char** arguments) {
     for (const auto rows : topics)
         rows(suite);
     suite.finish();
+    bench::Growth growth(filter, markdown);
+    bench::growthRows(growth);
+    growth.finish();
     if (markdown != nullptr && std::fclose(markdown) != 0) {
         std::perror(markdownName);
         return 2;
     }
     std::printf("%d rows, %d beyond their limit, %d with sides that disagree\n", suite.count(),
                 suite.beyond(), suite.wrong());
-    if (suite.count() == 0)
+    if (suite.count() + growth.count() == 0) {
         std::fprintf(stderr, "No row contains \"%s\".\n", filter.c_str());
-    return suite.wrong() == 0 && suite.count() != 0 ? 0 : 1;
+        return 2;
+    }
+    return suite.wrong() == 0 ? 0 : 1;
 }

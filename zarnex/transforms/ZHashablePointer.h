@@ -6,7 +6,6 @@
 #include <zarnex/transforms/ArbTrans.h>
 
 #include <cstdint>
-#include <functional>
 #include <type_traits>
 
 /// A pointer to keep in containers that hash or order their elements; for
@@ -68,6 +67,11 @@ private:
 };
 
 namespace zarnex::detail {
+
+/// The place of `pointer` in an order of all pointers, as that of std::less.
+inline std::uintptr_t address(const void* pointer) {
+    return reinterpret_cast<std::uintptr_t>(pointer);
+}
 
 template <class Other, class T>
 using IfPointsTo = std::enable_if_t<std::is_convertible_v<Other*, const T*>, int>;
@@ -145,22 +149,22 @@ ZARNEX_TEMPLATE_INLINE int ZHashablePointer<T>::operator!=(const T* other) const
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE int ZHashablePointer<T>::operator<(const ZHashablePointer& other) const {
-    return std::less<const T*>()(pointer_, other.pointer_);
+    return zarnex::detail::address(pointer_) < zarnex::detail::address(other.pointer_);
 }
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE int ZHashablePointer<T>::operator<(const T* other) const {
-    return std::less<const T*>()(pointer_, other);
+    return zarnex::detail::address(pointer_) < zarnex::detail::address(other);
 }
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE int ZHashablePointer<T>::operator>(const ZHashablePointer& other) const {
-    return std::less<const T*>()(other.pointer_, pointer_);
+    return zarnex::detail::address(other.pointer_) < zarnex::detail::address(pointer_);
 }
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE int ZHashablePointer<T>::operator>(const T* other) const {
-    return std::less<const T*>()(other, pointer_);
+    return zarnex::detail::address(other) < zarnex::detail::address(pointer_);
 }
 
 template <class T>
@@ -190,7 +194,7 @@ ZARNEX_TEMPLATE_INLINE T* ZHashablePointer<T>::getPointer() const {
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE int ZHashablePointer<T>::hash() const {
-    const auto low = static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(pointer_));
+    const auto low = static_cast<std::uint32_t>(zarnex::detail::address(pointer_));
     return static_cast<int>(low * 1741u);
 }
 
