@@ -16,9 +16,10 @@ constexpr const char* usage =
     "the median over the rounds, with quartiles. Status 1 if two sides of a row disagree.\n";
 
 constexpr void (*topics[])(bench::Suite&) = {
-    bench::listRows,      bench::arrayRows,    bench::sortRows,       bench::stringRows,
-    bench::encodingRows,  bench::quantityRows, bench::pointRows,      bench::geometryRows,
-    bench::transformRows, bench::randomRows,   bench::identifierRows, bench::bigIntegerRows,
+    bench::listRows,       bench::arrayRows,     bench::sortRows,   bench::stringRows,
+    bench::encodingRows,   bench::quantityRows,  bench::threadRows, bench::pointRows,
+    bench::geometryRows,   bench::transformRows, bench::randomRows, bench::identifierRows,
+    bench::bigIntegerRows,
 };
 
 } // namespace
