@@ -4,6 +4,7 @@
 #include <zarnex/runtime/exiting.h>
 #include <zarnex/runtime/internal/locks.h>
 #include <zarnex/units/internal/TextTokens.h>
+#include <zarnex/units/internal/tokens.h>
 #include <zarnex/units/yy_scan.h>
 
 #include <algorithm>
@@ -172,7 +173,7 @@ int ZUnitScanner::yylex() {
         position_ = engine_->askFor(*this, position_);
         token = engine_->nextOfFeed();
     }
-    value = yy_scan::yynumber();
+    value = zarnex::detail::scannedNumber;
     return token;
 }
 

@@ -26,9 +26,8 @@ bool isSpace(wchar_t c) {
 
 void readNumberIn(const wchar_t* begin, const wchar_t* end) {
     char digits[tokenRoom];
-    char* const stop = std::transform(begin, end, digits, [](wchar_t c) {
-        return static_cast<char>(scannedByte(scannedCharacter(c)));
-    });
+    char* const stop = std::transform(
+        begin, end, digits, [](wchar_t c) { return static_cast<char>(c); }); // the low 8 bits
     readNumber(digits, stop);
 }
 
@@ -56,13 +55,13 @@ int TextTokens::next() {
     for (;;) {
         TokenWalk walk;
         const wchar_t* at = end;
-        for (; !walk.isOver(); ++at) {
+        while (!walk.isOver()) { // which it is behind the terminator at the latest
             if (walk.read() == tokenRoom)
                 return overrun;
-            if (*at == L'\0')
-                break;
-            walk.step(classOf(*at));
+            walk.step(classOf(*at++));
         }
+        if (at[-1] == L'\0')
+            --at;
         readEnd = (std::max)(readEnd, at);
         begin = end;
         end += walk.length();
@@ -74,7 +73,7 @@ int TextTokens::next() {
                 readNumberIn(begin, end);
             return token;
         }
-        if (walk.read() == 0)
+        if (at == begin)
             return unitNone;
         if (begin != text && isSpace(begin[-1]) && !isSpace(*begin))
             wordDropped = 1;
