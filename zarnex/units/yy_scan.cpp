@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <new>
 
@@ -89,33 +90,37 @@ int yy_scan::yystep() {
         yyleng = 0;
     }
 
-    TokenWalk walk; // for every start condition, at a line's start or not
-    while (!walk.isOver()) {
-        const int place = walk.read();
-        if (place == yysize) {
+    std::uint8_t state = Automaton::start; // for every start condition, at a line's start or not
+    int length = 0;
+    while (!tokenAutomaton.last[state]) {
+        if (length == yysize) {
             yyerror("Token buffer overflow");
             break;
         }
-        if (place == yyheld) {
+        if (length == yyheld) {
             const int c = yygetc();
             if (c == -1)
                 break;
             text[yyheld++] = static_cast<char>(c & 0xFF);
         }
-        walk.step(tokenAutomaton.classOf[static_cast<unsigned char>(text[place])]);
-        states[walk.read()] = walk.state();
+        const auto byte = static_cast<unsigned char>(text[length]);
+        state = tokenAutomaton.next[state][tokenAutomaton.classOf[byte]];
+        states[++length] = state;
     }
 
-    const bool atEnd = walk.read() == 0;
-    const bool accepted = walk.length() > 0;
-    yyleng = accepted ? walk.length() : (atEnd ? 0 : 1);
+    const bool atEnd = length == 0;
+    while (length > 0 && tokenAutomaton.rule[states[length]] == Automaton::noRule)
+        --length;
+    const bool accepted = length > 0;
+    yyleng = accepted ? length : (atEnd ? 0 : 1);
     yysaved = yyleng < yyheld ? static_cast<unsigned char>(text[yyleng]) : 0;
     text[yyleng] = '\0';
 
     if (accepted) {
-        if (walk.token() == zarnex::unitNumber)
+        const int token = tokenRules[tokenAutomaton.rule[states[length]]].token;
+        if (token == zarnex::unitNumber)
             readNumber(text, text + yyleng);
-        return walk.token();
+        return token;
     }
     if (atEnd)
         return yywrap() != 0 ? 0 : yySkipped;

@@ -51,22 +51,27 @@ bool isScannedSpace(unsigned char byte) {
 }
 
 int TextTokens::next() {
+    std::uint8_t states[tokenRoom + 1]; // behind so many characters of the token
     wordDropped = 0;
     for (;;) {
-        TokenWalk walk;
         const wchar_t* at = end;
-        while (!walk.isOver()) { // which it is behind the terminator at the latest
-            if (walk.read() == tokenRoom)
+        std::uint8_t state = Automaton::start;
+        int length = 0;
+        while (!tokenAutomaton.last[state]) { // which it is behind the terminator at the latest
+            if (length == tokenRoom)
                 return overrun;
-            walk.step(classOf(*at++));
+            state = tokenAutomaton.next[state][classOf(*at++)];
+            states[++length] = state;
         }
         if (at[-1] == L'\0')
             --at;
         readEnd = (std::max)(readEnd, at);
+        while (length > 0 && tokenAutomaton.rule[states[length]] == Automaton::noRule)
+            --length;
         begin = end;
-        end += walk.length();
-        if (walk.length() > 0) {
-            const int token = walk.token();
+        end += length;
+        if (length > 0) {
+            const int token = tokenRules[tokenAutomaton.rule[states[length]]].token;
             if (token == skippedToken)
                 continue;
             if (token == unitNumber)
