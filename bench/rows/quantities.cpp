@@ -25,6 +25,7 @@
 #include <cwchar>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace bench {
@@ -36,7 +37,6 @@ using byHand::Unit;
 // ---- Reading
 
 constexpr double byHandLimit = 2.0;
-constexpr double udunitsLimit = 0.15;
 
 /// What a text adds to the result of a side.
 double counted(double value, bool valid) {
@@ -63,6 +63,8 @@ double readByHand(const std::vector<std::wstring>& texts, Unit own, Unit to) {
 }
 
 #if BENCH_UDUNITS
+
+constexpr double udunitsLimit = 0.15;
 
 /// The units that the peer ships, and the stitch.
 ut_system* unitSystem() {
