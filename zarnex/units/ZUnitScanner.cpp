@@ -34,8 +34,6 @@ public:
         const auto byteAt = [](wchar_t c) { return scannedByte(scannedCharacter(c)); };
         for (const wchar_t* at = done.text; at != done.begin; ++at)
             yylineno += byteAt(*at) == '\n';
-        if (done.begin != done.text)
-            yyprevious = byteAt(done.begin[-1]);
         for (const wchar_t* at = done.begin; at != done.readEnd; ++at)
             yytext[yyheld++] = static_cast<char>(byteAt(*at));
         yyleng = static_cast<int>(done.end - done.begin);
