@@ -12,6 +12,7 @@ void sortRows(Suite& suite);
 void stringRows(Suite& suite);
 void encodingRows(Suite& suite);
 void quantityRows(Suite& suite);
+void threadRows(Suite& suite);
 void pointRows(Suite& suite);
 void geometryRows(Suite& suite);
 void transformRows(Suite& suite);
