@@ -14,6 +14,7 @@ void encodingRows(Suite& suite);
 void quantityRows(Suite& suite);
 void pointRows(Suite& suite);
 void geometryRows(Suite& suite);
+void rootRows(Suite& suite); // of the topic geometry
 void transformRows(Suite& suite);
 void randomRows(Suite& suite);
 void identifierRows(Suite& suite);
