@@ -541,13 +541,13 @@ void rectangleRow(Suite& suite) {
                   std::vector<BoostBox> boost;
                   for (const DRECT& r : ours)
                       boost.push_back({{r.left, r.top}, {r.right, r.bottom}});
-                  row.peer("Boost", sumOver<2>(boost, [](const BoostBox* r) {
-                               BoostBox common;
-                               if (!bg::intersection(r[0], r[1], common))
-                                   return 0.0;
-                               return (common.max_corner().x() - common.min_corner().x()) +
-                                      (common.max_corner().y() - common.min_corner().y());
-                           }));
+                  row.beside("Boost, exact", sumOver<2>(boost, [](const BoostBox* r) {
+                                 BoostBox common;
+                                 if (!bg::intersection(r[0], r[1], common))
+                                     return 0.0;
+                                 return (common.max_corner().x() - common.min_corner().x()) +
+                                        (common.max_corner().y() - common.min_corner().y());
+                             }));
 #endif
 #if BENCH_EIGEN
                   using Box = Eigen::AlignedBox2d;
@@ -555,10 +555,10 @@ void rectangleRow(Suite& suite) {
                   for (const DRECT& r : ours)
                       eigen.emplace_back(Eigen::Vector2d(r.left, r.top),
                                          Eigen::Vector2d(r.right, r.bottom));
-                  row.peer("Eigen", sumOver<2>(eigen, [](const Box* r) {
-                               const Box common = r[0].intersection(r[1]);
-                               return common.isEmpty() ? 0.0 : common.sizes().sum();
-                           }));
+                  row.beside("Eigen, exact", sumOver<2>(eigen, [](const Box* r) {
+                                 const Box common = r[0].intersection(r[1]);
+                                 return common.isEmpty() ? 0.0 : common.sizes().sum();
+                             }));
 #endif
                   measure();
               });

@@ -19,6 +19,7 @@
 #include <QPointF>
 #endif
 
+#include <climits>
 #include <cmath>
 #include <vector>
 
@@ -45,9 +46,10 @@ struct Field {
     template <class Move>
     auto each(Move move) const {
         return [this, move] {
+            const Move local(move); // as the parameters of a function would be
             const std::size_t count = places.size();
             for (std::size_t i = 0; i < count; ++i)
-                out[i] = move(places[i], steps[i]);
+                out[i] = local(places[i], steps[i]);
             double told = 0.0;
             for (std::size_t i = 0; i < count; i += count / 8)
                 told += coordinates(out[i]);
@@ -220,6 +222,13 @@ void normalizeRow(Suite& suite, const std::string& name, std::size_t count) {
               });
 }
 
+/// The nearest int for what does not fit, 0 for NaN: what a cast leaves undefined.
+int truncate(double value) {
+    if (value > -2147483649.0 && value < 2147483648.0)
+        return static_cast<int>(value);
+    return value > 0.0 ? INT_MAX : value < 0.0 ? INT_MIN : 0;
+}
+
 struct PlainInts {
     int x;
     int y;
@@ -247,6 +256,15 @@ void integerRow(Suite& suite, const std::string& name, std::size_t count) {
                       for (std::size_t i = 0; i < last; ++i) {
                           const PlainInts p = plain[i];
                           const PlainInts q = plain[i + 1];
+                          plainOut[i] = {p.x + truncate((q.x - p.x) * 0.5),
+                                         p.y + truncate((q.y - p.y) * 0.5)};
+                      }
+                      return plainOut[last / 2].x + 3.0 * plainOut[last / 3].y;
+                  });
+                  row.beside("by hand, unchecked", [&] {
+                      for (std::size_t i = 0; i < last; ++i) {
+                          const PlainInts p = plain[i];
+                          const PlainInts q = plain[i + 1];
                           plainOut[i] = {p.x + static_cast<int>((q.x - p.x) * 0.5),
                                          p.y + static_cast<int>((q.y - p.y) * 0.5)};
                       }
@@ -257,7 +275,7 @@ void integerRow(Suite& suite, const std::string& name, std::size_t count) {
                   for (const PlainInts& p : plain)
                       eigen.emplace_back(p.x, p.y);
                   std::vector<Eigen::Vector2i> eigenOut(eigen);
-                  row.peer("Eigen", [&] {
+                  row.beside("Eigen, unchecked", [&] {
                       for (std::size_t i = 0; i < last; ++i)
                           eigenOut[i] =
                               eigen[i] +

@@ -420,8 +420,8 @@ void chainRow(Suite& suite) {
                   PlainChain<std::vector> contiguous;
                   row.per(1000);
                   row.ours(thereAndBack(chain, ours));
-                  row.peer("by hand, list", thereAndBack(listed, plain));
-                  row.peer("by hand, vector", thereAndBack(contiguous, plain));
+                  row.peer("by hand", thereAndBack(listed, plain));
+                  row.beside("by hand, vector", thereAndBack(contiguous, plain));
                   measure();
               });
 }

@@ -6,6 +6,7 @@
 #include <zarnex/containers/ZList.h>
 #include <zarnex/runtime/exiting.h>
 
+#include <new>
 #include <type_traits>
 
 template <class T>
@@ -45,6 +46,14 @@ ZList<T>& ZList<T>::operator=(ZList&& source) noexcept {
     empty();
     join(source);
     return *this;
+}
+
+// Without the size that a delete expression hands over: the runtime only drops it, by one
+// more call for each node.
+template <class T>
+ZARNEX_TEMPLATE_INLINE void ZList<T>::free(ZListNode<T>* node) {
+    node->~ZListNode<T>();
+    ::operator delete(node);
 }
 
 template <class T>
@@ -99,7 +108,7 @@ ZARNEX_TEMPLATE_INLINE void ZList<T>::remove(ZListNode<T>*& node) {
     if (head_ == node)
         head_ = nullptr;
     --count_;
-    delete node;
+    free(node);
     node = nullptr;
 }
 
@@ -113,7 +122,7 @@ void ZList<T>::empty() {
     count_ = 0;
     while (node != nullptr) {
         ZListNode<T>* const next = node->next;
-        delete node;
+        free(node);
         node = next;
     }
 }
