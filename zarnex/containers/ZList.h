@@ -177,8 +177,6 @@ private:
     /// reference, so that remove(0L) can only mean an index.
     void remove(ZListNode<T>*& node);
 
-    static void free(ZListNode<T>* node);
-
     void append(const ZList& source);
 
     /// Links all nodes of `other`, not empty and not this list, in front of

@@ -9,6 +9,18 @@
 #include <new>
 #include <type_traits>
 
+namespace zarnex::detail {
+
+/// Without the size that a delete expression hands over: the runtime only drops it, by one
+/// more call for each node.
+template <class T>
+void freeNode(ZListNode<T>* node) {
+    node->~ZListNode<T>();
+    ::operator delete(node);
+}
+
+} // namespace zarnex::detail
+
 template <class T>
 ZARNEX_TEMPLATE_INLINE ZList<T>::ZList() {}
 
@@ -46,14 +58,6 @@ ZList<T>& ZList<T>::operator=(ZList&& source) noexcept {
     empty();
     join(source);
     return *this;
-}
-
-// Without the size that a delete expression hands over: the runtime only drops it, by one
-// more call for each node.
-template <class T>
-ZARNEX_TEMPLATE_INLINE void ZList<T>::free(ZListNode<T>* node) {
-    node->~ZListNode<T>();
-    ::operator delete(node);
 }
 
 template <class T>
@@ -108,7 +112,7 @@ ZARNEX_TEMPLATE_INLINE void ZList<T>::remove(ZListNode<T>*& node) {
     if (head_ == node)
         head_ = nullptr;
     --count_;
-    free(node);
+    zarnex::detail::freeNode(node);
     node = nullptr;
 }
 
@@ -122,7 +126,7 @@ void ZList<T>::empty() {
     count_ = 0;
     while (node != nullptr) {
         ZListNode<T>* const next = node->next;
-        free(node);
+        zarnex::detail::freeNode(node);
         node = next;
     }
 }

@@ -3,7 +3,6 @@
 #include <zarnex/config.h>
 #include <zarnex/containers/ZList.h>
 
-#include <cstddef>
 #include <type_traits>
 #include <utility>
 
@@ -160,12 +159,6 @@ private:
     static T& store(T& slot, const T& value);
     T& reach(int i);
     void extendTo(int i);
-
-    /// Elements that may move as plain bytes live in a block of the C library's heap.
-    static constexpr bool movesAsBytes =
-        std::is_trivially_copyable_v<T> && alignof(T) <= alignof(std::max_align_t);
-    static T* resized(T* storage, int kept, int count);
-    static void release(T* storage);
 
     T* data_;
     T empty_;

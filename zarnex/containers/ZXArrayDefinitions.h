@@ -12,7 +12,47 @@
 #include <limits>
 #include <memory>
 #include <new>
+#include <type_traits>
 #include <utility>
+
+namespace zarnex::detail {
+
+/// Whether arrays move elements as plain bytes, in a block of the C library's heap.
+template <class T>
+inline constexpr bool movesAsBytes = std::is_trivially_copyable_v<T> &&
+                                     alignof(T) <= alignof(std::max_align_t);
+
+template <class T>
+void release(T* storage) {
+    if constexpr (movesAsBytes<T>)
+        std::free(storage);
+    else
+        delete[] storage;
+}
+
+/// Storage of `count` slots in place of `storage`: with as many of its `kept` elements as fit,
+/// and default-constructed ones. Null, with `storage` as it was, if there is no memory.
+template <class T>
+T* resized(T* storage, int kept, int count) {
+    const auto slots = static_cast<std::size_t>(count);
+    kept = (std::min)(kept, count);
+    if constexpr (movesAsBytes<T>) {
+        // The heap can often enlarge a block where it stands.
+        T* const moved = static_cast<T*>(std::realloc(storage, slots * sizeof(T)));
+        if (moved != nullptr)
+            std::uninitialized_default_construct(moved + kept, moved + count);
+        return moved;
+    } else {
+        T* const fresh = new (std::nothrow) T[slots];
+        if (fresh != nullptr) {
+            std::move(storage, storage + kept, fresh);
+            release(storage);
+        }
+        return fresh;
+    }
+}
+
+} // namespace zarnex::detail
 
 template <class T>
 ZXArray<T>::ZXArray()
@@ -51,7 +91,7 @@ ZXArray<T>& ZXArray<T>::operator=(const ZXArray& other) {
     if (allocLength_ != other.allocLength_) {
         reset();
         if (other.allocLength_ > 0)
-            data_ = resized(nullptr, 0, other.allocLength_);
+            data_ = zarnex::detail::resized<T>(nullptr, 0, other.allocLength_);
         allocLength_ = data_ == nullptr ? 0 : other.allocLength_;
     }
     length_ = data_ == nullptr ? 0 : other.length_;
@@ -70,7 +110,7 @@ ZXArray<T>& ZXArray<T>::operator=(ZXArray&& other) noexcept {
 
 template <class T>
 ZXArray<T>::~ZXArray() {
-    release(data_);
+    zarnex::detail::release(data_);
 }
 
 template <class T>
@@ -227,7 +267,7 @@ void ZXArray<T>::setAll(const T& value) {
 
 template <class T>
 void ZXArray<T>::reset() {
-    release(data_);
+    zarnex::detail::release(data_);
     data_ = nullptr;
     allocLength_ = 0;
     length_ = 0;
@@ -351,11 +391,11 @@ template <class T>
 void ZXArray<T>::growArray(int n, int useRule) {
     const int count = useRule != 0 ? getGrowSize(n) : n;
     if (count <= 0) {
-        release(data_);
+        zarnex::detail::release(data_);
         data_ = nullptr;
         allocLength_ = 0;
     } else if (count != allocLength_) {
-        T* const storage = resized(data_, allocLength_, count);
+        T* const storage = zarnex::detail::resized(data_, allocLength_, count);
         if (storage == nullptr)
             return;
         if (emptySet_ != 0 && count > allocLength_)
@@ -363,36 +403,6 @@ void ZXArray<T>::growArray(int n, int useRule) {
         data_ = storage;
         allocLength_ = count;
     }
-}
-
-// Storage of `count` slots with what fits of `storage`, which it replaces, and for the rest
-// default-constructed elements. Null, with `storage` as it was, if there is no memory.
-template <class T>
-T* ZXArray<T>::resized(T* storage, int kept, int count) {
-    const auto slots = static_cast<std::size_t>(count);
-    kept = (std::min)(kept, count);
-    if constexpr (movesAsBytes) {
-        // The heap can often enlarge a block where it stands.
-        T* const moved = static_cast<T*>(std::realloc(storage, slots * sizeof(T)));
-        if (moved != nullptr)
-            std::uninitialized_default_construct(moved + kept, moved + count);
-        return moved;
-    } else {
-        T* const fresh = new (std::nothrow) T[slots];
-        if (fresh != nullptr) {
-            std::move(storage, storage + kept, fresh);
-            release(storage);
-        }
-        return fresh;
-    }
-}
-
-template <class T>
-void ZXArray<T>::release(T* storage) {
-    if constexpr (movesAsBytes)
-        std::free(storage);
-    else
-        delete[] storage;
 }
 
 // Assigning an element to itself is left out: a list would be empty after it.
