@@ -126,7 +126,8 @@ TEST(Turn, AgreesWithTheNormalizedCrossProduct) {
         DPoint c(coordinate(other), coordinate(other));
         if (i % 2 == 0) // nearly straight on, or exactly
             c = b + DVector(b.x, b.y) * mantissa(random) +
-                DVector(coordinate(scale - 50), coordinate(scale - 53)) * (random() % 3);
+                DVector(coordinate(scale - 50), coordinate(scale - 53)) *
+                    static_cast<int>(random() % 3);
         const double k = (b - a).normalize().cross((c - b).normalize());
         const int expected = k > 0.0 ? 1 : k < 0.0 ? -1 : 0;
         straight += expected == 0;

@@ -1,6 +1,7 @@
 #include <zarnex/geometry/circleCentre.h>
 #include <zarnex/geometry/cubic.h>
 #include <zarnex/geometry/quadratic.h>
+#include <zarnex/geometry/tolerance.h>
 
 #include "hostileValues.h"
 
