@@ -15,6 +15,7 @@ void quantityRows(Suite& suite);
 void threadRows(Suite& suite);
 void pointRows(Suite& suite);
 void geometryRows(Suite& suite);
+void rootRows(Suite& suite); // of the topic geometry
 void transformRows(Suite& suite);
 void randomRows(Suite& suite);
 void identifierRows(Suite& suite);
