@@ -12,7 +12,7 @@
 #include <utility>
 
 template <class T>
-ZXArray<T>::ZXArray()
+ZARNEX_TEMPLATE_INLINE ZXArray<T>::ZXArray()
     : data_(nullptr), empty_(), allocLength_(0), length_(0), step_(-1), emptySet_(0) {}
 
 template <class T>
@@ -66,7 +66,7 @@ ZXArray<T>& ZXArray<T>::operator=(ZXArray&& other) noexcept {
 }
 
 template <class T>
-ZXArray<T>::~ZXArray() {
+ZARNEX_TEMPLATE_INLINE ZXArray<T>::~ZXArray() {
     delete[] data_;
 }
 
@@ -239,7 +239,7 @@ void ZXArray<T>::compact() {
 }
 
 template <class T>
-void ZXArray<T>::setSize(int n) {
+ZARNEX_TEMPLATE_INLINE void ZXArray<T>::setSize(int n) {
     n = (std::max)(n, 0);
     if (n < length_)
         std::fill(data_ + n, data_ + length_, empty_);
@@ -315,7 +315,7 @@ ZARNEX_TEMPLATE_INLINE int ZXArray<T>::getStep() const {
 }
 
 template <class T>
-int ZXArray<T>::setStep(int step) {
+ZARNEX_TEMPLATE_INLINE int ZXArray<T>::setStep(int step) {
     return step_ = step;
 }
 
@@ -336,7 +336,10 @@ int ZXArray<T>::getGrowSize(int n) {
         return 0;
     long long count;
     if (step_ >= 1) {
-        count = (static_cast<long long>(n) + step_ - 1) / step_ * step_;
+        // Most steps are powers of two: a division would take as long as all the rest.
+        const long long step = step_;
+        const long long last = n + step - 1;
+        count = (step & (step - 1)) == 0 ? last & -step : last / step * step;
     } else if (n >= allocLength_) {
         for (count = allocLength_ <= 0 ? 32 : allocLength_; count < n;)
             count *= 2;
