@@ -331,7 +331,7 @@ void ZXArray<T>::swap(ZXArray& other) noexcept {
 }
 
 template <class T>
-int ZXArray<T>::getGrowSize(int n) {
+ZARNEX_TEMPLATE_INLINE int ZXArray<T>::getGrowSize(int n) {
     if (n < 1)
         return 0;
     long long count;

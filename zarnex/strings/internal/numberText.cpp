@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstring>
+#include <iterator>
 
 namespace zarnex::detail {
 
@@ -68,10 +69,52 @@ constexpr int mostDigits = 1100;
 // Room for any double with mostDigits decimals, a sign, a dot and an exponent.
 using DigitRoom = char[mostDigits + 400];
 
+// What most numbers are shown with: `precision` decimals, at most nine, of a magnitude
+// that is no tiny one and below 2^53. Null for any other. The fraction is an integer times
+// 2^-63 then, so that its decimals and what they leave are exact; halves go to even.
+char* shortFixed(DigitRoom& room, double magnitude, int precision) {
+    constexpr std::uint64_t powers[] = {1,      10,      100,      1000,      10000,
+                                        100000, 1000000, 10000000, 100000000, 1000000000};
+    const bool isInReach = magnitude < 0x1p53 && (magnitude >= 0x1p-11 || magnitude == 0.0);
+    if (!isInReach || precision < 0 || precision >= static_cast<int>(std::size(powers)))
+        return nullptr;
+    auto whole = static_cast<std::uint64_t>(magnitude);
+    const double rest = magnitude - static_cast<double>(whole);
+    const auto fraction = static_cast<std::uint64_t>(rest * 0x1p63);
+
+    // decimals + remainder * 2^-63 = fraction * 2^-63 * power, in steps of 64 bits.
+    constexpr std::uint64_t low31 = (1u << 31) - 1;
+    constexpr std::uint64_t low32 = (std::uint64_t{1} << 32) - 1;
+    const std::uint64_t power = powers[precision];
+    const std::uint64_t low = (fraction & low31) * power;
+    const std::uint64_t high = (fraction >> 31) * power + (low >> 31);
+    std::uint64_t decimals = high >> 32;
+    const std::uint64_t remainder = (high & low32) << 31 | (low & low31);
+
+    constexpr std::uint64_t half = std::uint64_t{1} << 62;
+    const std::uint64_t last = precision == 0 ? whole : decimals;
+    if (remainder > half || (remainder == half && last % 2 != 0))
+        ++decimals;
+    if (decimals == power) {
+        decimals = 0;
+        ++whole;
+    }
+    char* end = std::to_chars(room, room + sizeof room, whole).ptr;
+    if (precision == 0)
+        return end;
+    *end++ = '.';
+    end += precision;
+    for (char* digit = end; precision > 0; --precision, decimals /= 10)
+        *--digit = static_cast<char>('0' + decimals % 10);
+    return end;
+}
+
 char* finiteDigits(DigitRoom& room, double magnitude, char kind, int precision) {
     char* const end = room + sizeof room;
     switch (kind) {
     case 'f':
+        if (char* const shown = shortFixed(room, magnitude, precision))
+            return shown;
         return std::to_chars(room, end, magnitude, std::chars_format::fixed, precision).ptr;
     case 'e':
         return std::to_chars(room, end, magnitude, std::chars_format::scientific, precision).ptr;

@@ -22,6 +22,9 @@ namespace zarnex::detail {
 
 inline constexpr int growthStep = 32;
 
+/// Below so many units, a conversion to bytes takes place on the stack.
+inline constexpr std::size_t shortText = 256;
+
 /// A friend of the string classes: their arrays, and strings made of arrays.
 struct TextAccess {
     template <class String>
@@ -231,6 +234,14 @@ void assignConverted(ZXArray<Out>& array, const In* text, unsigned int codePage)
             array.reserve(static_cast<long long>(likely));
             Out* const out = array;
             size = convertUnits(codePage, text, count, out, array.allocLength());
+        }
+    } else if (length < shortText) {
+        // Converted on the stack instead of measured.
+        Out units[4 * shortText];
+        size = convertUnits(codePage, text, count, units, 4 * shortText);
+        if (size != 0) {
+            assignText(array, units, notNegative(size - 1));
+            return;
         }
     }
     if (size == 0) {
