@@ -138,6 +138,7 @@ void toWideRow(Suite& suite, const std::string& name, std::size_t size, Make mak
     suite.row("UTF-8 to wide, " + name, 1.0,
               "Into a new string. Qt's and ICU's units have two bytes.",
               [=](Row& row, const auto& measure) {
+                  row.why(unitWidth);
                   const std::size_t count = size > 1000 ? 4 : poolSize;
                   Pool<std::string> texts(count, [=](std::size_t i) { return make(size, i); });
                   Pool<ZMultiByteString> ours(count, [=](std::size_t i) {
