@@ -69,6 +69,10 @@ void format(Suite& suite, const Size& size) {
         std::string("format ") + size.name, 1.0, "\"%d: %s\" with a long text, into a new string.",
         [=](Row& row, const auto& measure) {
             const auto wide = widened<std::wstring>(words(size.units, 1));
+            row.why("The room doubles from twice the format's length until it is larger "
+                    "than the text, so up to two slots a character are allocated; the text "
+                    "is put together beside the string, into which arguments may point, and "
+                    "copied. Qt's characters have two bytes, the library's four.");
             row.ours([=] {
                 ZString text;
                 text.set(L"%d: %s", 42, wide.c_str());
@@ -106,6 +110,9 @@ void trimAndSlice(Suite& suite, const Size& size) {
                   const auto wide = widened<std::wstring>(given);
                   const auto utf16 = widened<std::u16string>(given);
                   const std::size_t quarter = size.units / 4;
+                  row.why("The length is never stored: each of the three steps measures the "
+                          "text again, by reading all of it. Qt's characters have two bytes, the "
+                          "library's four.");
                   row.ours([=] { return ZString(wide.c_str()); },
                            [=](ZString& text) {
                                text.trimLeft();

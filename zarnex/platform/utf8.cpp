@@ -211,7 +211,8 @@ inline Unit bytesOf(wchar_t at, wchar_t next) {
         const bool isPair = (unit & 0xFC00) == 0xD800 && (next & 0xFC00) == 0xDC00;
         return static_cast<Unit>(size - 2 * isPair);
     } else {
-        return static_cast<Unit>(size + (unit >= 0x10000) - (unit > 0x10FFFF));
+        const char32_t character = unit;
+        return static_cast<Unit>(size + (character >= 0x10000) - (character > 0x10FFFF));
     }
 }
 
