@@ -10,7 +10,6 @@
 #include <cstddef>
 #include <cstdlib>
 #include <limits>
-#include <memory>
 #include <new>
 #include <type_traits>
 #include <utility>
@@ -39,8 +38,8 @@ T* resized(T* storage, int kept, int count) {
     if constexpr (movesAsBytes<T>) {
         // The heap can often enlarge a block where it stands.
         T* const moved = static_cast<T*>(std::realloc(storage, slots * sizeof(T)));
-        if (moved != nullptr)
-            std::uninitialized_default_construct(moved + kept, moved + count);
+        for (int i = kept; moved != nullptr && i < count; ++i)
+            ::new (static_cast<void*>(moved + i)) T;
         return moved;
     } else {
         T* const fresh = new (std::nothrow) T[slots];
@@ -55,7 +54,7 @@ T* resized(T* storage, int kept, int count) {
 } // namespace zarnex::detail
 
 template <class T>
-ZXArray<T>::ZXArray()
+ZARNEX_TEMPLATE_INLINE ZXArray<T>::ZXArray()
     : data_(nullptr), empty_(), allocLength_(0), length_(0), step_(-1), emptySet_(0) {}
 
 template <class T>
@@ -109,7 +108,7 @@ ZXArray<T>& ZXArray<T>::operator=(ZXArray&& other) noexcept {
 }
 
 template <class T>
-ZXArray<T>::~ZXArray() {
+ZARNEX_TEMPLATE_INLINE ZXArray<T>::~ZXArray() {
     zarnex::detail::release(data_);
 }
 
@@ -279,7 +278,7 @@ void ZXArray<T>::compact() {
 }
 
 template <class T>
-void ZXArray<T>::setSize(int n) {
+ZARNEX_TEMPLATE_INLINE void ZXArray<T>::setSize(int n) {
     n = (std::max)(n, 0);
     if (n < length_)
         std::fill(data_ + n, data_ + length_, empty_);
@@ -355,7 +354,7 @@ ZARNEX_TEMPLATE_INLINE int ZXArray<T>::getStep() const {
 }
 
 template <class T>
-int ZXArray<T>::setStep(int step) {
+ZARNEX_TEMPLATE_INLINE int ZXArray<T>::setStep(int step) {
     return step_ = step;
 }
 
@@ -371,12 +370,15 @@ void ZXArray<T>::swap(ZXArray& other) noexcept {
 }
 
 template <class T>
-int ZXArray<T>::getGrowSize(int n) {
+ZARNEX_TEMPLATE_INLINE int ZXArray<T>::getGrowSize(int n) {
     if (n < 1)
         return 0;
     long long count;
     if (step_ >= 1) {
-        count = (static_cast<long long>(n) + step_ - 1) / step_ * step_;
+        // Most steps are powers of two: a division would take as long as all the rest.
+        const long long step = step_;
+        const long long last = n + step - 1;
+        count = (step & (step - 1)) == 0 ? last & -step : last / step * step;
     } else if (n >= allocLength_) {
         for (count = allocLength_ <= 0 ? 32 : allocLength_; count < n;)
             count *= 2;

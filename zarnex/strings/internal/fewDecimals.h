@@ -1,61 +1,61 @@
 #pragma once
 
 #include <algorithm>
-#include <bit>
 #include <cstdint>
 
 namespace zarnex::detail {
 
-/// The fraction that `product`, the rounded product of `a` and a whole `b` below 2^26,
-/// lacks to the exact one.
-///
-/// Source: Dekker, "A floating-point technique for extending the available precision",
-/// Numerische Mathematik 18 (1971).
-inline double lackOf(double product, double a, double b) {
-    const auto high = std::bit_cast<double>(std::bit_cast<std::uint64_t>(a) & ~0x7FFFFFFull);
-    return (high * b - product) + (a - high) * b;
-}
-
 /// The most characters that fewDecimals() writes.
-inline constexpr int fewDecimalsRoom = 17;
+inline constexpr int fewDecimalsRoom = 26;
 
 /// Writes `magnitude`, not negative, with `precision` decimals to `out` and returns the
 /// end, as std::to_chars does for the fixed format: the exact value counts, and halves go
-/// to the even digit. For what people look at, up to 6 decimals and 15 digits in all;
-/// otherwise it returns null.
+/// to the even digit. Null for what people hardly look at: more than 9 decimals, 2^53 and
+/// above, less than 2^-11 other than 0.
 inline char* fewDecimals(char* out, double magnitude, int precision) {
-    constexpr double powers[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6};
-    if (precision < 0 || precision > 6)
-        return nullptr;
-    const double scaled = magnitude * powers[precision];
-    if (!(scaled < 1e15))
+    constexpr int most = 9;
+    constexpr std::uint64_t powers[most + 1] = {1,      10,      100,      1000,      10000,
+                                                100000, 1000000, 10000000, 100000000, 1000000000};
+    const bool isInReach = magnitude < 0x1p53 && (magnitude >= 0x1p-11 || magnitude == 0.0);
+    if (!isInReach || precision < 0 || precision > most)
         return nullptr;
 
-    // `part` is exact, and what `scaled` lacks is less than the distance of any other
-    // `part` from one half.
-    auto number = static_cast<std::uint64_t>(scaled);
-    const double part = scaled - static_cast<double>(number);
-    bool up = part > 0.5;
-    if (part == 0.5) {
-        const double lack = lackOf(scaled, magnitude, powers[precision]);
-        up = lack > 0.0 || (lack == 0.0 && number % 2 != 0);
+    // The fraction is a whole number of 2^-63 then, so that its decimals and what they
+    // leave are exact: fraction * power = decimals * 2^63 + remainder, in steps of 64 bits.
+    auto whole = static_cast<std::uint64_t>(magnitude);
+    const auto fraction =
+        static_cast<std::uint64_t>((magnitude - static_cast<double>(whole)) * 0x1p63);
+    constexpr std::uint64_t low31 = (1u << 31) - 1;
+    constexpr std::uint64_t low32 = (std::uint64_t{1} << 32) - 1;
+    const std::uint64_t power = powers[precision];
+    const std::uint64_t low = (fraction & low31) * power;
+    const std::uint64_t high = (fraction >> 31) * power + (low >> 31);
+    std::uint64_t decimals = high >> 32;
+    const std::uint64_t remainder = (high & low32) << 31 | (low & low31);
+
+    constexpr std::uint64_t half = std::uint64_t{1} << 62;
+    const std::uint64_t last = precision == 0 ? whole : decimals;
+    if (remainder > half || (remainder == half && last % 2 != 0))
+        ++decimals;
+    if (decimals == power) {
+        decimals = 0;
+        ++whole;
     }
-    number += up ? 1 : 0;
 
     char digits[fewDecimalsRoom];
     char* const end = digits + sizeof digits;
     char* at = end;
-    const auto addDigit = [&at, &number] {
+    const auto addDigit = [&at](std::uint64_t& number) {
         *--at = static_cast<char>('0' + number % 10);
         number /= 10;
     };
     for (int i = 0; i < precision; ++i)
-        addDigit();
+        addDigit(decimals);
     if (precision > 0)
         *--at = '.';
     do
-        addDigit();
-    while (number != 0);
+        addDigit(whole);
+    while (whole != 0);
     return std::copy(at, end, out);
 }
 
