@@ -54,22 +54,6 @@ TEST(PortableLimbs, MultiplyAndCarryAsTheCompilerDoes) {
     }
 }
 
-TEST(PortableLimbs, AccumulateColumns) {
-    Accumulator sum;
-    SigUInt expected;
-    for (const Limb a : limbs) {
-        for (const Limb b : limbs) {
-            sum.addProduct(a, b);
-            sum.add(b);
-            expected += SigUInt(a) * b + b;
-            Accumulator twice = sum;
-            twice.add(sum);
-            for (int i = 0; i < 3; ++i)
-                EXPECT_EQ(twice.next(), (expected << 1 >> (64 * i)) % whole(1, 0));
-        }
-    }
-}
-
 TEST(PortableLimbs, DivideByTheReciprocal) {
     for (const Limb divisor : limbs) {
         if (divisor >> 63 == 0)
