@@ -4,7 +4,7 @@
 #include <zarnex/bigint/internal/rows.h>
 
 #include <algorithm>
-#include <atomic>
+#include <cstdlib>
 
 #if defined(ZARNEX_CHAINED_ROWS)
 #include <cpuid.h>
@@ -60,15 +60,13 @@ template <class Rows>
 constexpr Kernels kernelsOf = {Rows::addMultiple, multiplyByRows<Rows>, multiplyLowByRows<Rows>,
                                squareByRows<Rows>, reduceByRows<Rows>};
 
-const Kernels* fastest() {
+const Kernels& fastest() {
 #if defined(ZARNEX_CHAINED_ROWS)
-    if (hasChainedRows())
-        return &kernelsOf<ChainedRows>;
+    if (hasChainedRows() && std::getenv("ZARNEX_PLAIN_KERNELS") == nullptr)
+        return kernelsOf<ChainedRows>;
 #endif
-    return &kernelsOf<PlainRows>;
+    return kernelsOf<PlainRows>;
 }
-
-std::atomic<const Kernels*> chosen; // null before the first use
 
 } // namespace
 
@@ -87,16 +85,8 @@ bool hasChainedRows() {
 #endif
 
 const Kernels& kernels() {
-    const Kernels* kernels = chosen.load(std::memory_order_relaxed);
-    if (kernels == nullptr) {
-        kernels = fastest();
-        chosen.store(kernels, std::memory_order_relaxed);
-    }
-    return *kernels;
-}
-
-void usePlainKernels(bool plain) {
-    chosen.store(plain ? &kernelsOf<PlainRows> : fastest(), std::memory_order_relaxed);
+    static const Kernels& chosen = fastest();
+    return chosen;
 }
 
 } // namespace zarnex::detail

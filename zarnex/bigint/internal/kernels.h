@@ -3,7 +3,6 @@
 /// What is made of rows, for the processor that the library runs on.
 
 #include <zarnex/bigint/internal/limb.h>
-#include <zarnex/config.h>
 
 namespace zarnex::detail {
 
@@ -27,10 +26,8 @@ struct Kernels {
     unsigned char (*reduce)(Limb* out, Limb* number, const Limb* modulus, Size count, Limb inverse);
 };
 
-/// The fastest ones.
+/// The fastest ones; where the environment has ZARNEX_PLAIN_KERNELS, as the tests set it, those
+/// for every processor. Chosen at the first call.
 const Kernels& kernels();
-
-/// For tests: whether kernels() are those for every processor from now on.
-ZARNEX_API void usePlainKernels(bool plain);
 
 } // namespace zarnex::detail
