@@ -44,10 +44,12 @@ TEST(PortableLimbs, MultiplyAndCarryAsTheCompilerDoes) {
             }
             for (unsigned char bit = 0; bit <= 1; ++bit) {
                 unsigned char carry = bit;
-                const Limb sum = addCarry(a, b, carry);
+                Limb sum = 0;
+                addCarry(sum, a, b, carry);
                 EXPECT_EQ(whole(carry, sum), SigUInt(a) + b + bit);
                 unsigned char borrow = bit;
-                const Limb difference = subtractBorrow(a, b, borrow);
+                Limb difference = 0;
+                subtractBorrow(difference, a, b, borrow);
                 EXPECT_EQ(SigUInt(difference) + b + bit, whole(borrow, 0) + a);
             }
         }

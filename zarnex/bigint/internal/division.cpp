@@ -14,7 +14,7 @@ namespace {
 void negate(Limb* out, const Limb* a, Size count) {
     unsigned char borrow = 0;
     for (Size i = 0; i < count; ++i)
-        out[i] = subtractBorrow(0, a[i], borrow);
+        subtractBorrow(out[i], 0, a[i], borrow);
 }
 
 // One limb of the quotient, at most one too great. `first` and `second` are the top limbs

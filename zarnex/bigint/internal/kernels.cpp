@@ -42,8 +42,8 @@ void squareByRows(Limb* out, const Limb* a, Size count) {
         const LimbPair own = product(a[i], a[i]);
         const Limb low = out[2 * i];
         const Limb high = out[2 * i + 1];
-        out[2 * i] = addCarry(low << 1 | below >> (limbBits - 1), own.low, carry);
-        out[2 * i + 1] = addCarry(high << 1 | low >> (limbBits - 1), own.high, carry);
+        addCarry(out[2 * i], low << 1 | below >> (limbBits - 1), own.low, carry);
+        addCarry(out[2 * i + 1], high << 1 | low >> (limbBits - 1), own.high, carry);
         below = high;
     }
 }

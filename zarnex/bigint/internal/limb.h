@@ -73,31 +73,26 @@ inline Limb multiplyAdd(Limb a, Limb b, Limb addend, Limb& carry) {
 #endif
 }
 
-/// a + b + carry; `carry` is 0 or 1 before and after.
-inline Limb addCarry(Limb a, Limb b, unsigned char& carry) {
+/// sum = a + b + carry; `carry` is 0 or 1 before and after. Into the place where the sum is
+/// wanted, for compilers store it where they are told.
+inline void addCarry(Limb& sum, Limb a, Limb b, unsigned char& carry) {
 #if defined(ZARNEX_CARRY_INSTRUCTIONS)
-    Limb sum;
     carry = _addcarry_u64(carry, a, b, &sum);
-    return sum;
 #else
     const Limb partial = a + b;
-    const Limb sum = partial + carry;
+    sum = partial + carry;
     carry = (partial < a || sum < partial) ? 1 : 0;
-    return sum;
 #endif
 }
 
-/// a - b - borrow; `borrow` is 0 or 1 before and after.
-inline Limb subtractBorrow(Limb a, Limb b, unsigned char& borrow) {
+/// difference = a - b - borrow; `borrow` is 0 or 1 before and after.
+inline void subtractBorrow(Limb& difference, Limb a, Limb b, unsigned char& borrow) {
 #if defined(ZARNEX_CARRY_INSTRUCTIONS)
-    Limb difference;
     borrow = _subborrow_u64(borrow, a, b, &difference);
-    return difference;
 #else
     const Limb partial = a - b;
-    const Limb difference = partial - borrow;
+    difference = partial - borrow;
     borrow = (partial > a || difference > partial) ? 1 : 0;
-    return difference;
 #endif
 }
 
@@ -135,8 +130,9 @@ public:
     Limb divide(LimbPair number, Limb& remainder) const {
         LimbPair quotient = product(reciprocal_, number.high);
         unsigned char carry = 0;
-        quotient.low = addCarry(quotient.low, number.low, carry);
-        quotient.high = addCarry(quotient.high, number.high, carry) + 1;
+        addCarry(quotient.low, quotient.low, number.low, carry);
+        addCarry(quotient.high, quotient.high, number.high, carry);
+        ++quotient.high;
         remainder = number.low - quotient.high * divisor_;
         if (remainder > quotient.low) {
             --quotient.high;

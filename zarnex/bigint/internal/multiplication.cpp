@@ -70,7 +70,7 @@ void multiplyHalves(Limb* out, const Limb* a, const Limb* b, Size count, Limb* s
     carry = static_cast<unsigned char>(carry + add(out + low, out + low, middle, 2 * low));
     Limb* top = out + 3 * low;
     unsigned char step = 0;
-    *top = addCarry(*top, carry, step);
+    addCarry(*top, *top, carry, step);
     propagateCarry(top + 1, top + 1, out + 2 * count - (top + 1), step);
 }
 
