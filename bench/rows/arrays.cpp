@@ -150,8 +150,11 @@ void writeRow(Suite& suite) {
             const auto unsignedAt = [](int i) { return static_cast<std::size_t>(i); };
             row.per(1000);
             row.why(
-                "An index past the end extends the array, which may move: so the compiler reads "
-                "address and length again for each element, although that never happens here.");
+                "An index past the end extends the array, which may move. So the compiler reads "
+                "length and address again for each element and cannot keep 0.5 in a register: "
+                "1.13 ns. The same loop by hand takes 0.90 ns, as std::vector::at does, where it "
+                "keeps both in variables that only the extension reads again, and 1.04 ns where "
+                "it reads them each time.");
             row.ours(writeAt(positions, [&](int i) -> double& { return kinds.ours[i]; }));
             row.peer("std::vector::at", writeAt(positions, [&](int i) -> double& {
                          return kinds.vector.at(unsignedAt(i));

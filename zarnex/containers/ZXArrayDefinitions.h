@@ -132,9 +132,9 @@ int ZXArray<T>::operator!=(const ZXArray& other) const {
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE T& ZXArray<T>::get(int i) {
-    if (static_cast<unsigned>(i) < static_cast<unsigned>(length_))
-        return data_[i];
-    return reach(i);
+    if (ZARNEX_UNLIKELY(static_cast<unsigned>(i) >= static_cast<unsigned>(length_)))
+        return reach(i);
+    return data_[i];
 }
 
 template <class T>
@@ -407,10 +407,11 @@ void ZXArray<T>::growArray(int n, int useRule) {
     }
 }
 
-// Assigning an element to itself is left out: a list would be empty after it.
+// Assigning an element to itself is left out: a list would be empty after it. For plain bytes
+// the look at the addresses would take longer than the copy.
 template <class T>
 ZARNEX_TEMPLATE_INLINE T& ZXArray<T>::store(T& slot, const T& value) {
-    if (&slot != &value)
+    if (std::is_trivially_copyable_v<T> || &slot != &value)
         slot = value;
     return slot;
 }
