@@ -35,12 +35,12 @@ inline __m128d betweenOrFlat(__m128d p, __m128d a, __m128d b) {
 }
 
 inline __m128d coordinates(const DPoint& p) {
-    return _mm_set_pd(p.y, p.x);
+    return _mm_loadu_pd(&p.x);
 }
 
 inline bool withinEnds(const DPoint& p, const DPoint& a, const DPoint& b, const DPoint& c,
                        const DPoint& d) {
-    const __m128d place = coordinates(p);
+    const __m128d place = _mm_set_pd(p.y, p.x);
     const __m128d inFirst = betweenOrFlat(place, coordinates(a), coordinates(b));
     const __m128d inSecond = betweenOrFlat(place, coordinates(c), coordinates(d));
     return _mm_movemask_pd(_mm_and_pd(inFirst, inSecond)) == 3;
