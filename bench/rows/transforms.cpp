@@ -25,8 +25,8 @@ struct PlainMatrix {
 };
 
 /// The same with its elements as the library's matrices have them: behind a pointer, with
-/// a determinant that derived classes may override. Like those it is made out of line, so
-/// that the compiler does not know its storage to be new.
+/// a determinant that derived classes may override. The compiler is not to know
+/// the storage to be new, as it does not of those.
 class StoredMatrix {
 public:
     StoredMatrix() : StoredMatrix(PlainMatrix{1.0, 0.0, 0.0, 1.0}) {}
@@ -56,8 +56,10 @@ private:
     std::unique_ptr<double[]> elements_;
 };
 
-[[gnu::noinline]] StoredMatrix::StoredMatrix(const PlainMatrix& m)
-    : elements_(new double[4]{m.m00, m.m01, m.m10, m.m11}) {}
+StoredMatrix::StoredMatrix(const PlainMatrix& m)
+    : elements_(new double[4]{m.m00, m.m01, m.m10, m.m11}) {
+    keep(elements_); // may be anybody's from here on
+}
 
 namespace {
 
