@@ -46,13 +46,13 @@ using BoostBox = bg::model::box<BoostPoint>;
 
 /// A pool of cases, each of as many neighbouring points as it takes.
 template <class P>
-std::vector<P> places(std::size_t each) {
-    return paired<P>(randomNumbers(2 * each * cases, -100.0, 100.0, 1));
+Array<P> places(std::size_t each) {
+    return pairedOnPages<P>(randomNumbers(2 * each * cases, -100.0, 100.0, 1));
 }
 
 /// The sum of what `measure` makes of each case of the pool, given its first point.
-template <std::size_t Each, class P, class Measure>
-auto sumOver(const std::vector<P>& pool, Measure measure) {
+template <std::size_t Each, class Pool, class Measure>
+auto sumOver(const Pool& pool, Measure measure) {
     return [&pool, measure] {
         double sum = 0.0;
         for (std::size_t i = 0; i < cases; ++i)

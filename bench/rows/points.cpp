@@ -34,13 +34,13 @@ using BoostPoint = boost::geometry::model::d2::point_xy<double>;
 /// Places and steps of one library's types, the same for all.
 template <class Place, class Step = Place>
 struct Field {
-    std::vector<Place> places;
-    std::vector<Step> steps;
-    mutable std::vector<Place> out;
+    Array<Place> places;
+    Array<Step> steps;
+    mutable Array<Place> out;
 
     explicit Field(std::size_t count)
-        : places(paired<Place>(randomNumbers(2 * count, -100.0, 100.0, 1))),
-          steps(paired<Step>(randomNumbers(2 * count, -100.0, 100.0, 2))), out(places) {}
+        : places(pairedOnPages<Place>(randomNumbers(2 * count, -100.0, 100.0, 1))),
+          steps(pairedOnPages<Step>(randomNumbers(2 * count, -100.0, 100.0, 2))), out(places) {}
 
     /// Fills `out` by `move`, and tells of a few.
     template <class Move>
@@ -235,66 +235,67 @@ struct PlainInts {
 };
 
 void integerRow(Suite& suite, const std::string& name, std::size_t count) {
-    suite.row("integer points, " + name, 1.0, "p + (q - p) * 0.5, truncated; per point.",
-              [count](Row& row, const auto& measure) {
-                  std::vector<IPoint> ours;
-                  std::vector<PlainInts> plain;
-                  for (const Plain& p : paired<Plain>(randomNumbers(2 * count, -1e6, 1e6, 1))) {
-                      plain.push_back({static_cast<int>(p.x), static_cast<int>(p.y)});
-                      ours.push_back(IPoint(plain.back().x, plain.back().y));
-                  }
-                  std::vector<IPoint> oursOut(ours);
-                  std::vector<PlainInts> plainOut(plain);
-                  const std::size_t last = count - 1;
-                  row.per(static_cast<double>(count));
-                  row.ours([&] {
-                      for (std::size_t i = 0; i < last; ++i)
-                          oursOut[i] = ours[i] + (ours[i + 1] - ours[i]) * 0.5;
-                      return oursOut[last / 2].x + 3.0 * oursOut[last / 3].y;
-                  });
-                  row.peer("by hand", [&] {
-                      for (std::size_t i = 0; i < last; ++i) {
-                          const PlainInts p = plain[i];
-                          const PlainInts q = plain[i + 1];
-                          plainOut[i] = {p.x + truncate((q.x - p.x) * 0.5),
-                                         p.y + truncate((q.y - p.y) * 0.5)};
-                      }
-                      return plainOut[last / 2].x + 3.0 * plainOut[last / 3].y;
-                  });
-                  row.beside("by hand, unchecked", [&] {
-                      for (std::size_t i = 0; i < last; ++i) {
-                          const PlainInts p = plain[i];
-                          const PlainInts q = plain[i + 1];
-                          plainOut[i] = {p.x + static_cast<int>((q.x - p.x) * 0.5),
-                                         p.y + static_cast<int>((q.y - p.y) * 0.5)};
-                      }
-                      return plainOut[last / 2].x + 3.0 * plainOut[last / 3].y;
-                  });
+    suite.row(
+        "integer points, " + name, 1.0, "p + (q - p) * 0.5, truncated; per point.",
+        [count](Row& row, const auto& measure) {
+            Array<IPoint> ours;
+            Array<PlainInts> plain;
+            for (const Plain& p : pairedOnPages<Plain>(randomNumbers(2 * count, -1e6, 1e6, 1))) {
+                plain.push_back({static_cast<int>(p.x), static_cast<int>(p.y)});
+                ours.push_back(IPoint(plain.back().x, plain.back().y));
+            }
+            Array<IPoint> oursOut(ours);
+            Array<PlainInts> plainOut(plain);
+            const std::size_t last = count - 1;
+            row.per(static_cast<double>(count));
+            row.ours([&] {
+                for (std::size_t i = 0; i < last; ++i)
+                    oursOut[i] = ours[i] + (ours[i + 1] - ours[i]) * 0.5;
+                return oursOut[last / 2].x + 3.0 * oursOut[last / 3].y;
+            });
+            row.peer("by hand", [&] {
+                for (std::size_t i = 0; i < last; ++i) {
+                    const PlainInts p = plain[i];
+                    const PlainInts q = plain[i + 1];
+                    plainOut[i] = {p.x + truncate((q.x - p.x) * 0.5),
+                                   p.y + truncate((q.y - p.y) * 0.5)};
+                }
+                return plainOut[last / 2].x + 3.0 * plainOut[last / 3].y;
+            });
+            row.beside("by hand, unchecked", [&] {
+                for (std::size_t i = 0; i < last; ++i) {
+                    const PlainInts p = plain[i];
+                    const PlainInts q = plain[i + 1];
+                    plainOut[i] = {p.x + static_cast<int>((q.x - p.x) * 0.5),
+                                   p.y + static_cast<int>((q.y - p.y) * 0.5)};
+                }
+                return plainOut[last / 2].x + 3.0 * plainOut[last / 3].y;
+            });
 #if BENCH_EIGEN
-                  std::vector<Eigen::Vector2i> eigen;
-                  for (const PlainInts& p : plain)
-                      eigen.emplace_back(p.x, p.y);
-                  std::vector<Eigen::Vector2i> eigenOut(eigen);
-                  row.beside("Eigen, unchecked", [&] {
-                      for (std::size_t i = 0; i < last; ++i)
-                          eigenOut[i] =
-                              eigen[i] +
-                              ((eigen[i + 1] - eigen[i]).cast<double>() * 0.5).cast<int>();
-                      return eigenOut[last / 2].x() + 3.0 * eigenOut[last / 3].y();
-                  });
+            Array<Eigen::Vector2i> eigen;
+            for (const PlainInts& p : plain)
+                eigen.emplace_back(p.x, p.y);
+            Array<Eigen::Vector2i> eigenOut(eigen);
+            row.beside("Eigen, unchecked", [&] {
+                for (std::size_t i = 0; i < last; ++i)
+                    eigenOut[i] =
+                        eigen[i] + ((eigen[i + 1] - eigen[i]).cast<double>() * 0.5).cast<int>();
+                return eigenOut[last / 2].x() + 3.0 * eigenOut[last / 3].y();
+            });
 #endif
-                  measure();
-              });
+            measure();
+        });
     suite.row("integer sums, " + name, 1.0, "p + (q - p) + (q - p), which wraps; per point.",
               [count](Row& row, const auto& measure) {
-                  std::vector<IPoint> ours;
-                  std::vector<PlainInts> plain;
-                  for (const Plain& p : paired<Plain>(randomNumbers(2 * count, -1e6, 1e6, 1))) {
+                  Array<IPoint> ours;
+                  Array<PlainInts> plain;
+                  for (const Plain& p :
+                       pairedOnPages<Plain>(randomNumbers(2 * count, -1e6, 1e6, 1))) {
                       plain.push_back({static_cast<int>(p.x), static_cast<int>(p.y)});
                       ours.push_back(IPoint(plain.back().x, plain.back().y));
                   }
-                  std::vector<IPoint> oursOut(ours);
-                  std::vector<PlainInts> plainOut(plain);
+                  Array<IPoint> oursOut(ours);
+                  Array<PlainInts> plainOut(plain);
                   const std::size_t last = count - 1;
                   row.per(static_cast<double>(count));
                   row.ours([&] {
@@ -314,10 +315,10 @@ void integerRow(Suite& suite, const std::string& name, std::size_t count) {
                       return plainOut[last / 2].x + 3.0 * plainOut[last / 3].y;
                   });
 #if BENCH_QT
-                  std::vector<QPoint> qt;
+                  Array<QPoint> qt;
                   for (const PlainInts& p : plain)
                       qt.push_back(QPoint(p.x, p.y));
-                  std::vector<QPoint> qtOut(qt);
+                  Array<QPoint> qtOut(qt);
                   row.peer("Qt", [&] {
                       for (std::size_t i = 0; i < last; ++i) {
                           const QPoint step = qt[i + 1] - qt[i];
@@ -327,10 +328,10 @@ void integerRow(Suite& suite, const std::string& name, std::size_t count) {
                   });
 #endif
 #if BENCH_EIGEN
-                  std::vector<Eigen::Vector2i> eigen;
+                  Array<Eigen::Vector2i> eigen;
                   for (const PlainInts& p : plain)
                       eigen.emplace_back(p.x, p.y);
-                  std::vector<Eigen::Vector2i> eigenOut(eigen);
+                  Array<Eigen::Vector2i> eigenOut(eigen);
                   row.peer("Eigen", [&] {
                       for (std::size_t i = 0; i < last; ++i) {
                           const Eigen::Vector2i step = eigen[i + 1] - eigen[i];
@@ -350,7 +351,7 @@ void pointRows(Suite& suite) {
     const struct {
         const char* name;
         std::size_t count;
-    } sizes[] = {{"1,000", 1000}, {"1,000,000", 1000000}};
+    } sizes[] = {{"500", 500}, {"1,000,000", 1000000}};
     for (const auto& size : sizes) {
         moveRow(suite, size.name, size.count);
         productRow(suite, size.name, size.count);

@@ -19,14 +19,51 @@
 
 namespace bench {
 
-namespace {
-
-constexpr std::size_t poolSize = 1024;
-
 /// A 2 x 2 matrix as one writes it by hand.
 struct PlainMatrix {
     double m00, m01, m10, m11;
 };
+
+/// The same with its elements as the library's matrices have them: behind a pointer, with
+/// a determinant that derived classes may override. The compiler is not to know
+/// the storage to be new, as it does not of those.
+class StoredMatrix {
+public:
+    StoredMatrix() : StoredMatrix(PlainMatrix{1.0, 0.0, 0.0, 1.0}) {}
+    explicit StoredMatrix(const PlainMatrix& m);
+    StoredMatrix(const StoredMatrix& other) : StoredMatrix(other.all()) {}
+    StoredMatrix& operator=(const StoredMatrix&) = delete;
+    virtual ~StoredMatrix() = default;
+
+    virtual double det() const {
+        const PlainMatrix m = all();
+        return m.m00 * m.m11 - m.m01 * m.m10;
+    }
+    double get(int r, int c) const {
+        return elements_[static_cast<std::size_t>(2 * r + c)];
+    }
+    PlainMatrix all() const {
+        return {elements_[0], elements_[1], elements_[2], elements_[3]};
+    }
+    void set(const PlainMatrix& m) {
+        elements_[0] = m.m00;
+        elements_[1] = m.m01;
+        elements_[2] = m.m10;
+        elements_[3] = m.m11;
+    }
+
+private:
+    std::unique_ptr<double[]> elements_;
+};
+
+StoredMatrix::StoredMatrix(const PlainMatrix& m)
+    : elements_(new double[4]{m.m00, m.m01, m.m10, m.m11}) {
+    keep(elements_); // may be anybody's from here on
+}
+
+namespace {
+
+constexpr std::size_t poolSize = 1024;
 
 Plain operator*(const PlainMatrix& m, const Plain& p) {
     return {m.m00 * p.x + m.m01 * p.y, m.m10 * p.x + m.m11 * p.y};
@@ -46,6 +83,15 @@ bool invert(const PlainMatrix& m, PlainMatrix& out) {
     return true;
 }
 
+bool invert(const StoredMatrix& m, StoredMatrix& out) {
+    const double det = m.det();
+    if (-1e-9 <= det && det <= 1e-9)
+        return false;
+    const PlainMatrix e = m.all();
+    out.set({e.m11 / det, -e.m01 / det, -e.m10 / det, e.m00 / det});
+    return true;
+}
+
 /// Matrices close to rotations, whose long products stay in range.
 std::vector<PlainMatrix> pool() {
     std::vector<PlainMatrix> matrices;
@@ -61,10 +107,14 @@ std::vector<Matrix> pool() {
     for (const PlainMatrix& m : pool()) {
         if constexpr (std::is_base_of_v<ZMatrix<double>, Matrix>) {
             matrices.push_back(Matrix(DVector(m.m00, m.m01), DVector(m.m10, m.m11)));
+        } else if constexpr (std::is_same_v<Matrix, StoredMatrix>) {
+            matrices.push_back(StoredMatrix(m));
         } else {
             Matrix matrix;
 #if BENCH_EIGEN
-            if constexpr (std::is_same_v<Matrix, Eigen::Matrix2d>)
+            if constexpr (std::is_same_v<Matrix, Eigen::MatrixXd>)
+                matrix.resize(2, 2);
+            if constexpr (std::is_base_of_v<Eigen::MatrixBase<Matrix>, Matrix>)
                 matrix << m.m00, m.m01, m.m10, m.m11;
 #endif
 #if BENCH_QT
@@ -79,7 +129,7 @@ std::vector<Matrix> pool() {
 }
 
 template <class Place, class Map>
-auto mapAll(const std::vector<Place>& places, std::vector<Place>& out, Map map) {
+auto mapAll(const Array<Place>& places, Array<Place>& out, Map map) {
     return [&places, &out, map] {
         for (std::size_t i = 0; i < places.size(); ++i)
             out[i] = map(places[i]);
@@ -92,29 +142,37 @@ auto mapAll(const std::vector<Place>& places, std::vector<Place>& out, Map map) 
 
 void mapRow(Suite& suite, const std::string& name, std::size_t count) {
     suite.row(
-        "map points, " + name, 1.0, "Points by one linear transform into another array; per point.",
+        "map points, " + name, 1.0,
+        "Points by one linear transform into another array; per point. \"inline\": four elements "
+        "in the object, which stay in registers, not behind a pointer.",
         [count](Row& row, const auto& measure) {
             const std::vector<double> numbers = randomNumbers(2 * count, -100.0, 100.0, 1);
-            const auto ours = paired<DPoint>(numbers);
-            const auto plain = paired<Plain>(numbers);
+            const auto ours = pairedOnPages<DPoint>(numbers);
+            const auto plain = pairedOnPages<Plain>(numbers);
             auto oursOut = ours;
             auto plainOut = plain;
             const Z2DTrans t = pool<Z2DTrans>()[1];
             const PlainMatrix m = pool()[1];
             row.per(static_cast<double>(count));
-            row.why("The elements stand behind a pointer, in storage of the matrix's own. The "
-                    "compiler has to expect that a point written is one of them, and reads all "
-                    "four again for each point; those of a plain structure stay in registers. With "
-                    "1,000,000 points memory sets the pace.");
             row.ours(mapAll(ours, oursOut, [&t](const DPoint& p) { return t * p; }));
-            row.peer("by hand", mapAll(plain, plainOut, [&m](const Plain& p) { return m * p; }));
+            const StoredMatrix stored(m);
+            auto storedOut = plain;
+            row.peer("by hand", mapAll(plain, storedOut,
+                                       [&stored](const Plain& p) { return stored.all() * p; }));
+            row.beside("by hand, inline",
+                       mapAll(plain, plainOut, [&m](const Plain& p) { return m * p; }));
 #if BENCH_EIGEN
             using Vector = Eigen::Vector2d;
             const Eigen::Matrix2d e = pool<Eigen::Matrix2d>()[1];
-            const auto eigen = paired<Vector>(numbers);
+            const auto eigen = pairedOnPages<Vector>(numbers);
             auto eigenOut = eigen;
-            row.peer("Eigen",
-                     mapAll(eigen, eigenOut, [&e](const Vector& p) -> Vector { return e * p; }));
+            const Eigen::MatrixXd dynamic = e;
+            auto dynamicOut = eigen;
+            row.peer("Eigen", mapAll(eigen, dynamicOut, [&dynamic](const Vector& p) -> Vector {
+                         return dynamic.lazyProduct(p);
+                     }));
+            row.beside("Eigen, inline",
+                       mapAll(eigen, eigenOut, [&e](const Vector& p) -> Vector { return e * p; }));
             const Eigen::Map<const Eigen::Matrix2Xd> all(numbers.data(), 2,
                                                          static_cast<Eigen::Index>(count));
             Eigen::Matrix2Xd allOut(2, static_cast<Eigen::Index>(count));
@@ -127,7 +185,7 @@ void mapRow(Suite& suite, const std::string& name, std::size_t count) {
 #endif
 #if BENCH_QT
             const QTransform q = pool<QTransform>()[1];
-            const auto qt = paired<QPointF>(numbers);
+            const auto qt = pairedOnPages<QPointF>(numbers);
             auto qtOut = qt;
             row.peer("Qt", mapAll(qt, qtOut, [&q](const QPointF& p) { return q.map(p); }));
 #endif
@@ -136,52 +194,71 @@ void mapRow(Suite& suite, const std::string& name, std::size_t count) {
 }
 
 void composeRow(Suite& suite) {
-    suite.row("compose", 1.0, "One transform after another, 1,024 in a row; per transform.",
-              [](Row& row, const auto& measure) {
-                  const auto ours = pool<Z2DTrans>();
-                  const auto plain = pool();
-                  row.per(poolSize);
-                  row.tolerance(1e-11);
-                  row.why(
-                      "Each result goes through the storage of the matrix, and the next step waits "
-                      "until it can be read back; the plain structure stays in registers.");
-                  row.ours([&] {
-                      Z2DTrans all;
-                      for (const Z2DTrans& each : ours)
-                          all.compose(each);
-                      return all(0, 1);
-                  });
-                  row.peer("by hand", [&] {
-                      PlainMatrix all{1.0, 0.0, 0.0, 1.0};
-                      for (const PlainMatrix& each : plain)
-                          all = each * all;
-                      return all.m01;
-                  });
+    suite.row(
+        "compose", 1.0,
+        "One transform after another, 1,024 in a row; per transform. \"inline\": elements in "
+        "the object; there the compiler leaves out the two sums that the result does not need.",
+        [](Row& row, const auto& measure) {
+            const auto ours = pool<Z2DTrans>();
+            const auto plain = pool();
+            row.per(poolSize);
+            row.tolerance(1e-11);
+            row.ours([&] {
+                Z2DTrans all;
+                for (const Z2DTrans& each : ours)
+                    all.compose(each);
+                return all(0, 1);
+            });
+            const auto stored = pool<StoredMatrix>();
+            row.peer("by hand", [&] {
+                StoredMatrix all;
+                for (const StoredMatrix& each : stored)
+                    all.set(each.all() * all.all());
+                return all.get(0, 1);
+            });
+            row.beside("by hand, inline", [&] {
+                PlainMatrix all{1.0, 0.0, 0.0, 1.0};
+                for (const PlainMatrix& each : plain)
+                    all = each * all;
+                return all.m01;
+            });
 #if BENCH_EIGEN
-                  const auto eigen = pool<Eigen::Matrix2d>();
-                  row.peer("Eigen", [&] {
-                      Eigen::Matrix2d all = Eigen::Matrix2d::Identity();
-                      for (const Eigen::Matrix2d& each : eigen)
-                          all = each * all;
-                      return all(0, 1);
-                  });
+            const auto eigen = pool<Eigen::Matrix2d>();
+            const auto dynamic = pool<Eigen::MatrixXd>();
+            row.peer("Eigen", [&] {
+                Eigen::MatrixXd all = Eigen::MatrixXd::Identity(2, 2);
+                Eigen::MatrixXd next(2, 2);
+                for (const Eigen::MatrixXd& each : dynamic) {
+                    next.noalias() = each.lazyProduct(all);
+                    all.swap(next);
+                }
+                return all(0, 1);
+            });
+            row.beside("Eigen, inline", [&] {
+                Eigen::Matrix2d all = Eigen::Matrix2d::Identity();
+                for (const Eigen::Matrix2d& each : eigen)
+                    all = each * all;
+                return all(0, 1);
+            });
 #endif
 #if BENCH_QT
-                  const auto qt = pool<QTransform>();
-                  row.peer("Qt", [&] {
-                      QTransform all;
-                      for (const QTransform& each : qt)
-                          all *= each;
-                      return all.m21();
-                  });
+            const auto qt = pool<QTransform>();
+            row.peer("Qt", [&] {
+                QTransform all;
+                for (const QTransform& each : qt)
+                    all *= each;
+                return all.m21();
+            });
 #endif
-                  measure();
-              });
+            measure();
+        });
 }
 
 void inverseRow(Suite& suite) {
     suite.row(
-        "2x2 inverse", 1.0, "1,024 matrices, each with the test for a singular one; per matrix.",
+        "2x2 inverse", 1.0,
+        "1,024 matrices, each with the test for a singular one; per matrix. \"inline\": elements "
+        "in the object, and no determinant that a derived class may override.",
         [](Row& row, const auto& measure) {
             const auto ours = pool<Z2DTrans>();
             const auto plain = pool();
@@ -189,8 +266,6 @@ void inverseRow(Suite& suite) {
             PlainMatrix plainOut;
             row.per(poolSize);
             row.tolerance(1e-11);
-            row.why("det() is a virtual call, which derived classes may override, and each element "
-                    "is divided by it, as rounding is fixed; Eigen multiplies by one reciprocal.");
             row.ours([&] {
                 double sum = 0.0;
                 for (const Z2DTrans& each : ours) {
@@ -199,7 +274,17 @@ void inverseRow(Suite& suite) {
                 }
                 return sum;
             });
+            const auto stored = pool<StoredMatrix>();
+            StoredMatrix storedOut;
             row.peer("by hand", [&] {
+                double sum = 0.0;
+                for (const StoredMatrix& each : stored) {
+                    if (invert(each, storedOut))
+                        sum += storedOut.get(0, 0) + storedOut.get(0, 1);
+                }
+                return sum;
+            });
+            row.beside("by hand, inline", [&] {
                 double sum = 0.0;
                 for (const PlainMatrix& each : plain) {
                     if (invert(each, plainOut))
@@ -210,7 +295,7 @@ void inverseRow(Suite& suite) {
 #if BENCH_EIGEN
             const auto eigen = pool<Eigen::Matrix2d>();
             Eigen::Matrix2d eigenOut;
-            row.peer("Eigen", [&] {
+            row.beside("Eigen, inline", [&] {
                 double sum = 0.0;
                 for (const Eigen::Matrix2d& each : eigen) {
                     bool invertible = false;
@@ -239,15 +324,14 @@ void inverseRow(Suite& suite) {
 }
 
 void productRow(Suite& suite) {
-    suite.row("2x2 product", 1.0, "1,024 products of neighbours; per product.",
+    suite.row("2x2 product", 1.0,
+              "1,024 products of neighbours; per product. \"inline\": elements in the object.",
               [](Row& row, const auto& measure) {
                   const auto ours = pool<Z2DTrans>();
                   const auto plain = pool();
                   Z2DTrans oursOut;
                   PlainMatrix plainOut;
                   row.per(poolSize);
-                  row.why("The elements of all three matrices stand behind pointers, which takes "
-                          "more reading, and their shapes are looked at before.");
                   row.ours([&] {
                       double sum = 0.0;
                       for (std::size_t i = 1; i < poolSize; ++i) {
@@ -256,7 +340,17 @@ void productRow(Suite& suite) {
                       }
                       return sum;
                   });
+                  const auto stored = pool<StoredMatrix>();
+                  StoredMatrix storedOut;
                   row.peer("by hand", [&] {
+                      double sum = 0.0;
+                      for (std::size_t i = 1; i < poolSize; ++i) {
+                          storedOut.set(stored[i - 1].all() * stored[i].all());
+                          sum += storedOut.get(0, 0) + storedOut.get(1, 0);
+                      }
+                      return sum;
+                  });
+                  row.beside("by hand, inline", [&] {
                       double sum = 0.0;
                       for (std::size_t i = 1; i < poolSize; ++i) {
                           plainOut = plain[i - 1] * plain[i];
@@ -267,7 +361,17 @@ void productRow(Suite& suite) {
 #if BENCH_EIGEN
                   const auto eigen = pool<Eigen::Matrix2d>();
                   Eigen::Matrix2d eigenOut;
+                  const auto dynamic = pool<Eigen::MatrixXd>();
+                  Eigen::MatrixXd dynamicOut(2, 2);
                   row.peer("Eigen", [&] {
+                      double sum = 0.0;
+                      for (std::size_t i = 1; i < poolSize; ++i) {
+                          dynamicOut.noalias() = dynamic[i - 1].lazyProduct(dynamic[i]);
+                          sum += dynamicOut(0, 0) + dynamicOut(1, 0);
+                      }
+                      return sum;
+                  });
+                  row.beside("Eigen, inline", [&] {
                       double sum = 0.0;
                       for (std::size_t i = 1; i < poolSize; ++i) {
                           eigenOut.noalias() = eigen[i - 1] * eigen[i];
@@ -411,7 +515,7 @@ private:
 };
 
 template <class Step, class P>
-auto thereAndBack(Step& chain, const std::vector<P>& places) {
+auto thereAndBack(Step& chain, const Array<P>& places) {
     return [&chain, &places] {
         double sum = 0.0;
         for (const P& p : places) {
@@ -429,8 +533,8 @@ void chainRow(Suite& suite) {
         "chain is called as a transform, which it is; the vector holds its steps in one block.",
         [](Row& row, const auto& measure) {
             const std::vector<double> numbers = randomNumbers(2000, -100.0, 100.0, 1);
-            const auto ours = paired<DPoint>(numbers);
-            const auto plain = paired<Plain>(numbers);
+            const auto ours = pairedOnPages<DPoint>(numbers);
+            const auto plain = pairedOnPages<Plain>(numbers);
             CompositeTrans<DPoint> chain(1);
             addSteps<ArbTrans<DPoint>, DPoint>(
                 [&chain](ArbTrans<DPoint>* step) { chain.addTrans(step); });

@@ -1,3 +1,4 @@
+#include <zarnex/geometry/internal/withinEnds.h>
 #include <zarnex/geometry/lineFit.h>
 #include <zarnex/geometry/lineIntersection.h>
 #include <zarnex/geometry/lineTests.h>
@@ -84,6 +85,21 @@ TEST(ContainedIntersection, IsThatOfSidesAndNotMissedByRounding) {
     const auto turned = [](const DPoint& q) { return DPoint(q.y, q.x); };
     EXPECT_TRUE(isContainedIntersect(a, b, c, d));
     EXPECT_TRUE(isContainedIntersect(turned(c), turned(d), turned(b), turned(a)));
+}
+
+// The comparison of both coordinates at once, by the plain one.
+TEST(ContainedIntersection, ComparesEveryValueWithTheEndsAsOneByOne) {
+    const double values[] = {-1.0, -0.0, 0.0, 1.0, HUGE_VAL, -HUGE_VAL, std::nan("")};
+    std::mt19937 random(12);
+    int within = 0;
+    for (int i = 0; i < 200000; ++i) {
+        const auto pick = [&] { return DPoint(values[random() % 7], values[random() % 7]); };
+        const DPoint p = pick(), a = pick(), b = pick(), c = pick(), d = pick();
+        const bool expected = zarnex::detail::withinEndsPlainly(p, a, b, c, d);
+        within += expected;
+        ASSERT_EQ(zarnex::detail::withinEnds(p, a, b, c, d), expected) << i;
+    }
+    EXPECT_GT(within, 1000);
 }
 
 TEST(Collinear, MeasuresOneEndAndTheSineOfTheAngle) {

@@ -23,8 +23,13 @@ Bisector bisector(const DPoint& p, const DPoint& q) {
             dot(widened(p), widened(p)) - dot(widened(q), widened(q))};
 }
 
+// As int, to be combined without branches.
+int coincide(const DPoint& p, const DPoint& q, double within) {
+    return (std::fabs(p.x - q.x) <= within) & (std::fabs(p.y - q.y) <= within);
+}
+
 bool anyTwoCoincide(const DPoint& p1, const DPoint& p2, const DPoint& p3, double within) {
-    return isEqual(p3, p2, within) || isEqual(p2, p1, within) || isEqual(p3, p1, within);
+    return (coincide(p3, p2, within) | coincide(p2, p1, within) | coincide(p3, p1, within)) != 0;
 }
 
 // Whether the sine between the steps, each after DVector::normalize(), is below the bound.

@@ -106,12 +106,6 @@ inline int intersectInIntegers(IPoint& out, Pair p, Pair u, Pair q, Pair v) {
     return 0;
 }
 
-/// Whether `value` is from `a` to `b`, in either order; true if there is nothing between
-/// the two, as it is then known but for its rounding.
-constexpr bool isBetweenOrFlat(double value, double a, double b) {
-    return a < b ? a <= value && value <= b : a == b || (b <= value && value <= a);
-}
-
 } // namespace zarnex::detail
 
 ZARNEX_INLINE int intersect(DPoint& out, const DPoint& p, const DVector& u, const DPoint& q,
@@ -149,14 +143,4 @@ ZARNEX_INLINE int intersect(IPoint& out, const IPoint& a, const IPoint& b, const
 ZARNEX_INLINE int intersect(IPoint* out, const IPoint& a, const IPoint& b, const IPoint& c,
                             const IPoint& d) {
     return out == nullptr ? 1 : intersect(*out, a, b, c, d);
-}
-
-ZARNEX_INLINE int isContainedIntersect(const DPoint& a, const DPoint& b, const DPoint& c,
-                                       const DPoint& d) {
-    namespace detail = zarnex::detail;
-    DPoint p;
-    if (intersect(p, a, b, c, d) != 0)
-        return 0;
-    return detail::isBetweenOrFlat(p.x, a.x, b.x) && detail::isBetweenOrFlat(p.y, a.y, b.y) &&
-           detail::isBetweenOrFlat(p.x, c.x, d.x) && detail::isBetweenOrFlat(p.y, c.y, d.y);
 }
