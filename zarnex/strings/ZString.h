@@ -5,6 +5,7 @@
 #include <zarnex/containers/ZXArray.h>
 
 #include <cstddef>
+#include <cwchar>
 #include <iosfwd>
 #include <type_traits>
 #include <utility>
@@ -12,8 +13,13 @@
 class ZGenericString;
 
 namespace zarnex::detail {
+
 struct TextAccess;
-}
+
+/// The step in which the arrays of strings grow.
+inline constexpr int growthStep = 32;
+
+} // namespace zarnex::detail
 
 /// A wide-character string with value semantics: the text type of every
 /// interface of the library.
@@ -325,6 +331,13 @@ private:
 
     ZXArray<wchar_t> array_;
 };
+
+ZARNEX_INLINE ZString::ZString() : array_(L"", 1, zarnex::detail::growthStep) {}
+
+ZARNEX_INLINE ZString::ZString(const wchar_t* text)
+    : array_(text == nullptr ? L"" : text,
+             text == nullptr ? 1 : static_cast<long long>(std::wcslen(text)) + 1,
+             zarnex::detail::growthStep) {}
 
 ZARNEX_INLINE ZString::~ZString() = default;
 
