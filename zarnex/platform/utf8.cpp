@@ -158,6 +158,9 @@ int convert(const In* text, const In* const end, Out* const out, int room) {
             next += count;
             if (count == blockSize)
                 continue;
+        } else if (isAscii(*text) && next != stop) {
+            *next++ = static_cast<Out>(*text++);
+            continue;
         }
         do {
             const char32_t character = decode(text, end);
