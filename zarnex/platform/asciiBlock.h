@@ -5,8 +5,9 @@
 ///     Blocks::copyAscii(text, length, out)
 ///
 /// copies the characters of ASCII in front of the block at `text` and returns their number.
-/// `length`, a block or more, is that of all the text left; what it is certain to fill in the
-/// block of `out` may be written over in advance.
+/// Where a wide unit of the block has its highest bit set, the number may be 0 instead. `length`, a
+/// block or more, is that of all the text left; what it is certain to fill in the block of `out`
+/// may be written over in advance.
 
 #include <algorithm>
 #include <cstddef>
