@@ -106,10 +106,6 @@ wchar_t& ZString::operator[](int i) {
     return elementOf(array_, i < 0 ? fromEnd(i) : i);
 }
 
-const wchar_t& ZString::operator[](int i) const {
-    return array_.get(i < 0 ? fromEnd(i) : i);
-}
-
 int ZString::fromEnd(int i) const {
     return wrappedIndex(i, length());
 }

@@ -350,6 +350,10 @@ ZARNEX_INLINE ZString::operator const wchar_t*() const {
     return text();
 }
 
+ZARNEX_INLINE const wchar_t& ZString::operator[](int i) const {
+    return array_.get(i < 0 ? fromEnd(i) : i);
+}
+
 ZARNEX_INLINE int ZString::allocLength() const {
     return array_.length();
 }
