@@ -107,9 +107,7 @@ public:
         return (*this)[static_cast<int>(i)];
     }
     template <class Index, std::enable_if_t<std::is_integral_v<Index>, int> = 0>
-    const wchar_t& operator[](Index i) const {
-        return (*this)[static_cast<int>(i)];
-    }
+    const wchar_t& operator[](Index i) const;
 
     // ---- Sizes, all measured
 
@@ -352,6 +350,11 @@ ZARNEX_INLINE ZString::operator const wchar_t*() const {
 
 ZARNEX_INLINE const wchar_t& ZString::operator[](int i) const {
     return array_.get(i < 0 ? fromEnd(i) : i);
+}
+
+template <class Index, std::enable_if_t<std::is_integral_v<Index>, int>>
+const wchar_t& ZString::operator[](Index i) const {
+    return (*this)[static_cast<int>(i)];
 }
 
 ZARNEX_INLINE int ZString::allocLength() const {
