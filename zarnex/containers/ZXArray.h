@@ -37,7 +37,7 @@ public:
     /// Copies `n` values; step -1. Null counts as no values.
     ZXArray(const T* values, int n);
 
-    /// Copies `n` values, 1 or more, into the allocation that growth by `step` gives.
+    /// Copies `n` values into the allocation that growth by `step` gives; below 1 none.
     /// Without memory the process ends.
     ZXArray(const T* values, long long n, int step);
 

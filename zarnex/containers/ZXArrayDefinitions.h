@@ -98,6 +98,8 @@ ZXArray<T>::ZXArray(const T* values, int n) : ZXArray() {
 template <class T>
 ZARNEX_TEMPLATE_INLINE ZXArray<T>::ZXArray(const T* values, long long n, int step) : ZXArray() {
     step_ = step;
+    if (n < 1)
+        return;
     constexpr long long most = (std::numeric_limits<int>::max)();
     if (n <= most) {
         allocLength_ = getGrowSize(static_cast<int>(n));
