@@ -132,181 +132,170 @@ private:
     locale_t own_;
 };
 
-constexpr const char* unitWidth =
-    "Wide units have four bytes here, Qt's and ICU's two: twice the memory to read or write. "
-    "And lengths are never stored: the text is measured up to its terminator, and a long one "
-    "is sized before its conversion, so that the result takes one allocation of the size that "
-    "the growth rule gives. On 64 bytes the conversion itself is a third of the time, the "
-    "array the rest. The loop by hand does less: overlong forms and surrogates pass it.";
+constexpr const char* what =
+    "Into a new string. What Qt and ICU make or take stands beside: units of two bytes, the "
+    "library's have four here.";
 
 using Facet = std::wstring_convert<std::codecvt_utf8<wchar_t>>;
 
 void toWideRow(Suite& suite, const std::string& name, std::size_t size, Make make) {
-    suite.row("UTF-8 to wide, " + name, 1.0,
-              "Into a new string. Qt's and ICU's units have two bytes.",
-              [=](Row& row, const auto& measure) {
-                  row.why(unitWidth);
-                  const std::size_t count = size > 1000 ? 4 : poolSize;
-                  Pool<std::string> texts(count, [=](std::size_t i) { return make(size, i); });
-                  Pool<ZMultiByteString> ours(count, [=](std::size_t i) {
-                      return ZMultiByteString(make(size, i).c_str());
-                  });
-                  row.ours([=] {
-                      const ZWideString wide = utf8ToWide(ours.next());
-                      keep(wide);
-                      return wide[0] != 0;
-                  });
-                  row.peer("by hand", [=] {
-                      const std::wstring wide = widenByHand(texts.next());
-                      keep(wide);
-                      return wide[0] != 0;
-                  });
-                  row.peer("std::codecvt_utf8", [=, facet = std::make_shared<Facet>()] {
-                      const std::wstring wide = facet->from_bytes(texts.next());
-                      keep(wide);
-                      return wide[0] != 0;
-                  });
+    suite.row("UTF-8 to wide, " + name, 1.0, what, [=](Row& row, const auto& measure) {
+        const std::size_t count = size > 1000 ? 4 : poolSize;
+        Pool<std::string> texts(count, [=](std::size_t i) { return make(size, i); });
+        Pool<ZMultiByteString> ours(
+            count, [=](std::size_t i) { return ZMultiByteString(make(size, i).c_str()); });
+        row.ours([=] {
+            const ZWideString wide = utf8ToWide(ours.next());
+            keep(wide);
+            return wide[0] != 0;
+        });
+        row.peer("by hand", [=] {
+            const std::wstring wide = widenByHand(texts.next());
+            keep(wide);
+            return wide[0] != 0;
+        });
+        row.peer("std::codecvt_utf8", [=, facet = std::make_shared<Facet>()] {
+            const std::wstring wide = facet->from_bytes(texts.next());
+            keep(wide);
+            return wide[0] != 0;
+        });
 #if BENCH_BOOST
-                  row.peer("Boost.Locale", [=] {
-                      const auto wide = boost::locale::conv::utf_to_utf<wchar_t>(texts.next());
-                      keep(wide);
-                      return wide[0] != 0;
-                  });
-                  row.peer("Boost.Nowide", [=] {
-                      const auto wide = boost::nowide::widen(texts.next());
-                      keep(wide);
-                      return wide[0] != 0;
-                  });
+        row.peer("Boost.Locale", [=] {
+            const auto wide = boost::locale::conv::utf_to_utf<wchar_t>(texts.next());
+            keep(wide);
+            return wide[0] != 0;
+        });
+        row.peer("Boost.Nowide", [=] {
+            const auto wide = boost::nowide::widen(texts.next());
+            keep(wide);
+            return wide[0] != 0;
+        });
 #endif
 #if BENCH_QT
-                  row.peer("Qt", [=] {
-                      const std::string& text = texts.next();
-                      const QString wide = QString::fromUtf8(text.data(), qsizetype(text.size()));
-                      keep(wide);
-                      return wide[0] != 0;
-                  });
-                  row.beside("Qt, on to std::wstring", [=] {
-                      const std::string& text = texts.next();
-                      const std::wstring wide =
-                          QString::fromUtf8(text.data(), qsizetype(text.size())).toStdWString();
-                      keep(wide);
-                      return wide[0] != 0;
-                  });
+        row.beside("Qt", [=] {
+            const std::string& text = texts.next();
+            const QString wide = QString::fromUtf8(text.data(), qsizetype(text.size()));
+            keep(wide);
+            return wide[0] != 0;
+        });
+        row.peer("Qt, on to std::wstring", [=] {
+            const std::string& text = texts.next();
+            const std::wstring wide =
+                QString::fromUtf8(text.data(), qsizetype(text.size())).toStdWString();
+            keep(wide);
+            return wide[0] != 0;
+        });
 #endif
 #if BENCH_ICU
-                  row.peer("ICU", [=] {
-                      const auto wide = icu::UnicodeString::fromUTF8(texts.next());
-                      keep(wide);
-                      return wide[0] != 0;
-                  });
-                  std::vector<UChar> utf16(size + 1);
-                  row.beside("ICU, into a buffer", [=, &utf16] {
-                      const std::string& text = texts.next();
-                      UErrorCode error = U_ZERO_ERROR;
-                      int written = 0;
-                      u_strFromUTF8(utf16.data(), int(utf16.size()), &written, text.data(),
-                                    int(text.size()), &error);
-                      keep(utf16);
-                      return utf16[0] != 0;
-                  });
+        row.beside("ICU", [=] {
+            const auto wide = icu::UnicodeString::fromUTF8(texts.next());
+            keep(wide);
+            return wide[0] != 0;
+        });
+        std::vector<UChar> utf16(size + 1);
+        row.beside("ICU, into a buffer", [=, &utf16] {
+            const std::string& text = texts.next();
+            UErrorCode error = U_ZERO_ERROR;
+            int written = 0;
+            u_strFromUTF8(utf16.data(), int(utf16.size()), &written, text.data(), int(text.size()),
+                          &error);
+            keep(utf16);
+            return utf16[0] != 0;
+        });
 #endif
-                  row.beside("std::mbsrtowcs", [=, own = std::make_shared<Utf8Locale>()] {
-                      const char* text = texts.next().c_str();
-                      std::wstring wide(size, L'\0');
-                      own->during([&] {
-                          std::mbstate_t state{};
-                          return std::mbsrtowcs(wide.data(), &text, size, &state);
-                      });
-                      keep(wide);
-                      return wide[0] != 0;
-                  });
-                  measure();
-              });
+        row.peer("std::mbsrtowcs", [=, own = std::make_shared<Utf8Locale>()] {
+            const char* text = texts.next().c_str();
+            std::wstring wide(size, L'\0');
+            wide.resize(own->during([&] {
+                std::mbstate_t state{};
+                return std::mbsrtowcs(wide.data(), &text, size, &state);
+            }));
+            keep(wide);
+            return wide[0] != 0;
+        });
+        measure();
+    });
 }
 
 void toUtf8Row(Suite& suite, const std::string& name, std::size_t size, Make make) {
-    suite.row(
-        "wide to UTF-8, " + name, 1.0, "Into a new string. Qt's and ICU's units have two bytes.",
-        [=](Row& row, const auto& measure) {
-            const std::size_t count = size > 1000 ? 4 : poolSize;
-            Pool<std::wstring> wides(count,
-                                     [=](std::size_t i) { return widenByHand(make(size, i)); });
-            Pool<ZWideString> ours(count, [=](std::size_t i) {
-                return ZWideString(widenByHand(make(size, i)).c_str());
-            });
-            row.ours([=] {
-                const ZMultiByteString text = wideToUtf8(ours.next());
-                keep(text);
-                return isStart(text[0]);
-            });
-            row.peer("by hand", [=] {
-                const std::string text = narrowByHand(wides.next());
-                keep(text);
-                return isStart(text[0]);
-            });
-            row.peer("std::codecvt_utf8", [=, facet = std::make_shared<Facet>()] {
-                const std::string text = facet->to_bytes(wides.next());
-                keep(text);
-                return isStart(text[0]);
-            });
+    suite.row("wide to UTF-8, " + name, 1.0, what, [=](Row& row, const auto& measure) {
+        const std::size_t count = size > 1000 ? 4 : poolSize;
+        Pool<std::wstring> wides(count, [=](std::size_t i) { return widenByHand(make(size, i)); });
+        Pool<ZWideString> ours(
+            count, [=](std::size_t i) { return ZWideString(widenByHand(make(size, i)).c_str()); });
+        row.ours([=] {
+            const ZMultiByteString text = wideToUtf8(ours.next());
+            keep(text);
+            return isStart(text[0]);
+        });
+        row.peer("by hand", [=] {
+            const std::string text = narrowByHand(wides.next());
+            keep(text);
+            return isStart(text[0]);
+        });
+        row.peer("std::codecvt_utf8", [=, facet = std::make_shared<Facet>()] {
+            const std::string text = facet->to_bytes(wides.next());
+            keep(text);
+            return isStart(text[0]);
+        });
 #if BENCH_BOOST
-            row.peer("Boost.Locale", [=] {
-                const auto text = boost::locale::conv::utf_to_utf<char>(wides.next());
-                keep(text);
-                return isStart(text[0]);
-            });
-            row.peer("Boost.Nowide", [=] {
-                const auto text = boost::nowide::narrow(wides.next());
-                keep(text);
-                return isStart(text[0]);
-            });
+        row.peer("Boost.Locale", [=] {
+            const auto text = boost::locale::conv::utf_to_utf<char>(wides.next());
+            keep(text);
+            return isStart(text[0]);
+        });
+        row.peer("Boost.Nowide", [=] {
+            const auto text = boost::nowide::narrow(wides.next());
+            keep(text);
+            return isStart(text[0]);
+        });
 #endif
 #if BENCH_QT
-            Pool<QString> qt(count,
-                             [=](std::size_t i) { return QString::fromStdString(make(size, i)); });
-            row.peer("Qt", [=] {
-                const QByteArray text = qt.next().toUtf8();
-                keep(text);
-                return isStart(text[0]);
-            });
-            row.beside("Qt, from std::wstring", [=] {
-                const QByteArray text = QString::fromStdWString(wides.next()).toUtf8();
-                keep(text);
-                return isStart(text[0]);
-            });
+        Pool<QString> qt(count,
+                         [=](std::size_t i) { return QString::fromStdString(make(size, i)); });
+        row.beside("Qt", [=] {
+            const QByteArray text = qt.next().toUtf8();
+            keep(text);
+            return isStart(text[0]);
+        });
+        row.peer("Qt, from std::wstring", [=] {
+            const QByteArray text = QString::fromStdWString(wides.next()).toUtf8();
+            keep(text);
+            return isStart(text[0]);
+        });
 #endif
 #if BENCH_ICU
-            Pool<icu::UnicodeString> icu(
-                count, [=](std::size_t i) { return icu::UnicodeString::fromUTF8(make(size, i)); });
-            row.peer("ICU", [=] {
-                std::string text;
-                icu.next().toUTF8String(text);
-                keep(text);
-                return isStart(text[0]);
-            });
-            std::vector<char> utf8(size + 1);
-            row.beside("ICU, into a buffer", [=, &utf8] {
-                const icu::UnicodeString& wide = icu.next();
-                UErrorCode error = U_ZERO_ERROR;
-                int written = 0;
-                u_strToUTF8(utf8.data(), int(utf8.size()), &written, wide.getBuffer(),
-                            wide.length(), &error);
-                keep(utf8);
-                return isStart(utf8[0]);
-            });
-#endif
-            row.beside("std::wcsrtombs", [=, own = std::make_shared<Utf8Locale>()] {
-                const wchar_t* wide = wides.next().c_str();
-                std::string text(size, '\0');
-                own->during([&] {
-                    std::mbstate_t state{};
-                    return std::wcsrtombs(text.data(), &wide, size, &state);
-                });
-                keep(text);
-                return isStart(text[0]);
-            });
-            measure();
+        Pool<icu::UnicodeString> icu(
+            count, [=](std::size_t i) { return icu::UnicodeString::fromUTF8(make(size, i)); });
+        row.beside("ICU", [=] {
+            std::string text;
+            icu.next().toUTF8String(text);
+            keep(text);
+            return isStart(text[0]);
         });
+        std::vector<char> utf8(size + 1);
+        row.beside("ICU, into a buffer", [=, &utf8] {
+            const icu::UnicodeString& wide = icu.next();
+            UErrorCode error = U_ZERO_ERROR;
+            int written = 0;
+            u_strToUTF8(utf8.data(), int(utf8.size()), &written, wide.getBuffer(), wide.length(),
+                        &error);
+            keep(utf8);
+            return isStart(utf8[0]);
+        });
+#endif
+        row.peer("std::wcsrtombs", [=, own = std::make_shared<Utf8Locale>()] {
+            const wchar_t* wide = wides.next().c_str();
+            std::string text(size, '\0');
+            text.resize(own->during([&] {
+                std::mbstate_t state{};
+                return std::wcsrtombs(text.data(), &wide, size, &state);
+            }));
+            keep(text);
+            return isStart(text[0]);
+        });
+        measure();
+    });
 }
 
 } // namespace

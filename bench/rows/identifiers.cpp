@@ -65,45 +65,45 @@ QUuid qtId(std::size_t seed) {
 #endif
 
 void toTextRow(Suite& suite) {
-    suite.row("to text", 1.0, "An identifier of given 128 bits, with its text of 36 characters.",
-              [](Row& row, const auto& measure) {
-                  Pool<GUID> guids(poolSize, guid);
-                  row.why("The object holds the text beside the number: the text is made, "
-                          "measured and copied into a growing string, in units of four bytes "
-                          "against Qt's two.");
-                  row.ours([=] {
-                      const ZGUIDWrapper id(guids.next());
-                      keep(id);
-                      return id.getString()[8];
-                  });
+    suite.row(
+        "to text", 1.0,
+        "An identifier of given 128 bits, with its text of 36 characters. Beside it stand texts "
+        "in units of one and two bytes; the library's have four here.",
+        [](Row& row, const auto& measure) {
+            Pool<GUID> guids(poolSize, guid);
+            row.ours([=] {
+                const ZGUIDWrapper id(guids.next());
+                keep(id);
+                return id.getString()[8];
+            });
 #if BENCH_BOOST
-                  Pool<boost::uuids::uuid> boost(poolSize, boostId);
-                  row.peer("Boost", [=] {
-                      const std::string text = boost::uuids::to_string(boost.next());
-                      keep(text);
-                      return text[8];
-                  });
-                  row.peer("Boost, wide", [=] {
-                      const std::wstring text = boost::uuids::to_wstring(boost.next());
-                      keep(text);
-                      return text[8];
-                  });
+            Pool<boost::uuids::uuid> boost(poolSize, boostId);
+            row.beside("Boost", [=] {
+                const std::string text = boost::uuids::to_string(boost.next());
+                keep(text);
+                return text[8];
+            });
+            row.peer("Boost, wide", [=] {
+                const std::wstring text = boost::uuids::to_wstring(boost.next());
+                keep(text);
+                return text[8];
+            });
 #endif
 #if BENCH_QT
-                  Pool<QUuid> qt(poolSize, qtId);
-                  row.peer("Qt", [=] {
-                      const QString text = qt.next().toString(QUuid::WithoutBraces);
-                      keep(text);
-                      return text[8].unicode();
-                  });
+            Pool<QUuid> qt(poolSize, qtId);
+            row.beside("Qt", [=] {
+                const QString text = qt.next().toString(QUuid::WithoutBraces);
+                keep(text);
+                return text[8].unicode();
+            });
 #endif
-                  row.beside("std::snprintf", [=] {
-                      const std::string text = textOf(guids.next());
-                      keep(text);
-                      return text[8];
-                  });
-                  measure();
-              });
+            row.beside("std::snprintf", [=] {
+                const std::string text = textOf(guids.next());
+                keep(text);
+                return text[8];
+            });
+            measure();
+        });
 }
 
 void fromTextRow(Suite& suite) {

@@ -43,10 +43,8 @@ void makeRow(Suite& suite, const std::string& name, std::size_t length, bool fit
                   auto wide = pooled<std::wstring>(length);
                   auto utf16 = pooled<std::u16string>(length);
                   const auto last = int(length) - 1;
-                  row.why("About 9 ns more than a bare vector, of 20 ns that the allocator and the "
-                          "measuring take on both sides: making and freeing are calls into the "
-                          "library, the growing array rounds its storage up to steps of 32 "
-                          "characters, and the allocation reports failure instead of throwing.");
+                  row.why("Within a nanosecond of a vector. The storage is rounded up to steps of "
+                          "32 characters: at 40, 0.6 of 21 ns.");
                   row.ours([=] {
                       const ZString text(wide.next().c_str());
                       keep(text);
@@ -101,9 +99,8 @@ void appendRow(Suite& suite) {
               [](Row& row, const auto& measure) {
                   constexpr std::size_t count = 16;
                   row.why(
-                      "The length is never stored: each += measures the whole text again besides "
-                      "the piece, together 39 % of the time, and storage grows by 32 characters "
-                      "instead of doubling.");
+                      "The length is never stored, so each += measures the text so far: 88 of 295 "
+                      "ns. The same steps with the length known took 207 ns, a vector 212.");
                   std::vector<std::wstring> pieces;
                   std::vector<std::u16string> utf16;
                   for (std::size_t i = 0; i < count; ++i) {

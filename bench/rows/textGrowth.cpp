@@ -1,4 +1,4 @@
-/// Texts of 64 KiB and of a megabyte: what grows faster than the text would show here.
+/// Texts of 64 Ki characters and of a million: what grows faster than the text would show here.
 
 #include "texts.h"
 
@@ -20,11 +20,15 @@ struct Size {
     std::size_t units;
 };
 
+constexpr const char* growth =
+    " Shown for its growth: the peers, which do not count, know lengths that the library measures.";
+
 constexpr Size sizes[] = {{"64 Ki characters", 64 << 10}, {"1 Mi characters", 1 << 20}};
 
 void replaceAll(Suite& suite, const Size& size) {
     suite.row(std::string("replace all in ") + size.name, 1.0,
-              "Every tenth character, by two others.", [=](Row& row, const auto& measure) {
+              std::string("Every tenth character, by two others.") + growth,
+              [=](Row& row, const auto& measure) {
                   std::string given;
                   while (given.size() < size.units)
                       given += "123456789,";
@@ -36,7 +40,7 @@ void replaceAll(Suite& suite, const Size& size) {
                                text.findAndReplace(L",", L"; ");
                                return text.length();
                            });
-                  row.peer(
+                  row.beside(
                       "std::wstring", [=] { return wide; },
                       [](std::wstring& text) {
                           std::wstring result;
@@ -53,7 +57,7 @@ void replaceAll(Suite& suite, const Size& size) {
                           return text.size();
                       });
 #if BENCH_QT
-                  row.peer(
+                  row.beside(
                       "Qt", [=] { return qString(utf16); },
                       [](QString& text) {
                           text.replace(QLatin1String(","), QLatin1String("; "));
@@ -65,54 +69,48 @@ void replaceAll(Suite& suite, const Size& size) {
 }
 
 void format(Suite& suite, const Size& size) {
-    suite.row(
-        std::string("format ") + size.name, 1.0, "\"%d: %s\" with a long text, into a new string.",
-        [=](Row& row, const auto& measure) {
-            const auto wide = widened<std::wstring>(words(size.units, 1));
-            row.why("The room doubles from twice the format's length until it is larger "
-                    "than the text, so up to two slots a character are allocated; the text "
-                    "is put together beside the string, into which arguments may point, and "
-                    "copied. Qt's characters have two bytes, the library's four.");
-            row.ours([=] {
-                ZString text;
-                text.set(L"%d: %s", 42, wide.c_str());
-                return text[int(size.units)];
-            });
-            row.peer("std::swprintf", [=] {
-                std::wstring text(size.units + 16, L'\0');
-                const int count =
-                    std::swprintf(text.data(), text.size(), L"%d: %ls", 42, wide.c_str());
-                text.resize(std::size_t(count));
-                return text[size.units];
-            });
+    suite.row(std::string("format ") + size.name, 1.0,
+              std::string("\"%d: %s\" with a long text, into a new string.") + growth,
+              [=](Row& row, const auto& measure) {
+                  const auto wide = widened<std::wstring>(words(size.units, 1));
+                  row.ours([=] {
+                      ZString text;
+                      text.set(L"%d: %s", 42, wide.c_str());
+                      return text[int(size.units)];
+                  });
+                  row.beside("std::swprintf", [=] {
+                      std::wstring text(size.units + 16, L'\0');
+                      const int count =
+                          std::swprintf(text.data(), text.size(), L"%d: %ls", 42, wide.c_str());
+                      text.resize(std::size_t(count));
+                      return text[size.units];
+                  });
 #if BENCH_FMT
-            row.peer("fmt", [=] {
-                const std::wstring text = fmt::format(L"{}: {}", 42, wide.c_str());
-                return text[size.units];
-            });
+                  row.beside("fmt", [=] {
+                      const std::wstring text = fmt::format(L"{}: {}", 42, wide.c_str());
+                      return text[size.units];
+                  });
 #endif
 #if BENCH_QT
-            const auto qt = qString(widened<std::u16string>(words(size.units, 1)));
-            row.peer("Qt", [=] {
-                const QString text = QString(QLatin1String("%1: %2")).arg(QString::number(42), qt);
-                return text[qsizetype(size.units)].unicode();
-            });
+                  const auto qt = qString(widened<std::u16string>(words(size.units, 1)));
+                  row.beside("Qt", [=] {
+                      const QString text =
+                          QString(QLatin1String("%1: %2")).arg(QString::number(42), qt);
+                      return text[qsizetype(size.units)].unicode();
+                  });
 #endif
-            measure();
-        });
+                  measure();
+              });
 }
 
 void trimAndSlice(Suite& suite, const Size& size) {
     suite.row(std::string("trim and slice ") + size.name, 1.0,
-              "Blanks at both ends removed, then the middle half taken.",
+              std::string("Blanks at both ends removed, then the middle half taken.") + growth,
               [=](Row& row, const auto& measure) {
                   const std::string given = "  \t" + words(size.units, 1) + "x\r\n ";
                   const auto wide = widened<std::wstring>(given);
                   const auto utf16 = widened<std::u16string>(given);
                   const std::size_t quarter = size.units / 4;
-                  row.why("The length is never stored: each of the three steps measures the "
-                          "text again, by reading all of it. Qt's characters have two bytes, the "
-                          "library's four.");
                   row.ours([=] { return ZString(wide.c_str()); },
                            [=](ZString& text) {
                                text.trimLeft();
@@ -121,7 +119,7 @@ void trimAndSlice(Suite& suite, const Size& size) {
                                    text.subString(int(quarter), int(2 * quarter));
                                return middle[int(quarter)];
                            });
-                  row.peer(
+                  row.beside(
                       "std::wstring", [=] { return wide; },
                       [=](std::wstring& text) {
                           const wchar_t blanks[] = L" \t\r\n";
@@ -131,7 +129,7 @@ void trimAndSlice(Suite& suite, const Size& size) {
                           return middle[quarter];
                       });
 #if BENCH_QT
-                  row.peer(
+                  row.beside(
                       "Qt", [=] { return qString(utf16); },
                       [=](QString& text) {
                           text = text.trimmed();

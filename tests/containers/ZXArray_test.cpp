@@ -127,6 +127,11 @@ TEST(ZXArray, ConstructorsAllocateAsStated) {
     EXPECT_EQ(contents(copied), (std::vector{1, 2, 3}));
     EXPECT_EQ(copied.allocLength(), 32);
     EXPECT_EQ(copied.getStep(), -1);
+    const int values[] = {7, 8, 9, 10, 11};
+    const Ints stepped(values, 5, 4);
+    EXPECT_EQ(contents(stepped), (std::vector{7, 8, 9, 10, 11}));
+    EXPECT_EQ(stepped.allocLength(), 8);
+    EXPECT_EQ(stepped.getStep(), 4);
     for (const Ints& none :
          {Ints(), Ints(-1, 3), Ints(nullptr, 3), Ints(&*std::vector{1}.begin(), -2)}) {
         EXPECT_EQ(none.length(), 0);
@@ -348,6 +353,8 @@ TEST(ZXArrayDeathTest, ASlotThatCannotBeHadEndsTheProcess) {
             array[INT_MAX] = 1.0;
         },
         testing::ExitedWithCode(1), "failed alloc");
+    const char text[] = "more than any array has";
+    EXPECT_EXIT(ZXArray<char>(text, INT_MAX + 1LL, 32), testing::ExitedWithCode(1), "failed alloc");
 }
 
 } // namespace

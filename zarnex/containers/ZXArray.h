@@ -37,6 +37,10 @@ public:
     /// Copies `n` values; step -1. Null counts as no values.
     ZXArray(const T* values, int n);
 
+    /// Copies `n` values into the allocation that growth by `step` gives; below 1 none.
+    /// Without memory the process ends.
+    ZXArray(const T* values, long long n, int step);
+
     /// Copies every allocated slot, the used ones and the spare ones.
     ZXArray(const ZXArray& other);
     ZXArray(ZXArray&& other) noexcept;

@@ -37,7 +37,9 @@ T* resized(T* storage, int kept, int count) {
     kept = (std::min)(kept, count);
     if constexpr (movesAsBytes<T>) {
         // The heap can often enlarge a block where it stands.
-        T* const moved = static_cast<T*>(std::realloc(storage, slots * sizeof(T)));
+        const std::size_t bytes = slots * sizeof(T);
+        T* const moved =
+            static_cast<T*>(storage == nullptr ? std::malloc(bytes) : std::realloc(storage, bytes));
         for (int i = kept; moved != nullptr && i < count; ++i)
             ::new (static_cast<void*>(moved + i)) T;
         return moved;
@@ -58,6 +60,26 @@ ZARNEX_TEMPLATE_INLINE ZXArray<T>::ZXArray()
     : data_(nullptr), empty_(), allocLength_(0), length_(0), step_(-1), emptySet_(0) {}
 
 template <class T>
+ZARNEX_TEMPLATE_INLINE int ZXArray<T>::getGrowSize(int n) {
+    if (n < 1)
+        return 0;
+    long long count;
+    if (step_ >= 1) {
+        // Most steps are powers of two: a division would take as long as all the rest.
+        const long long step = step_;
+        const long long last = n + step - 1;
+        count = (step & (step - 1)) == 0 ? last & -step : last / step * step;
+    } else if (n >= allocLength_) {
+        for (count = allocLength_ <= 0 ? 32 : allocLength_; count < n;)
+            count *= 2;
+    } else {
+        for (count = allocLength_; count / 2 >= n;)
+            count /= 2;
+    }
+    return static_cast<int>((std::min)(count, 0LL + (std::numeric_limits<int>::max)()));
+}
+
+template <class T>
 ZXArray<T>::ZXArray(int n, int step) : ZXArray() {
     step_ = step;
     growArray(n, 0);
@@ -71,6 +93,22 @@ ZXArray<T>::ZXArray(const T* values, int n) : ZXArray() {
     growArray(n, 1);
     length_ = (std::min)((std::max)(n, 0), allocLength_);
     std::copy_n(values, length_, data_);
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE ZXArray<T>::ZXArray(const T* values, long long n, int step) : ZXArray() {
+    step_ = step;
+    if (n < 1)
+        return;
+    constexpr long long most = (std::numeric_limits<int>::max)();
+    if (n <= most) {
+        allocLength_ = getGrowSize(static_cast<int>(n));
+        data_ = zarnex::detail::resized<T>(nullptr, 0, allocLength_);
+    }
+    if (data_ == nullptr)
+        zarnex::exitFatally("failed alloc\n", 1);
+    length_ = static_cast<int>(n);
+    std::copy_n(values, n, data_);
 }
 
 template <class T>
@@ -367,26 +405,6 @@ void ZXArray<T>::swap(ZXArray& other) noexcept {
     swap(length_, other.length_);
     swap(step_, other.step_);
     swap(emptySet_, other.emptySet_);
-}
-
-template <class T>
-ZARNEX_TEMPLATE_INLINE int ZXArray<T>::getGrowSize(int n) {
-    if (n < 1)
-        return 0;
-    long long count;
-    if (step_ >= 1) {
-        // Most steps are powers of two: a division would take as long as all the rest.
-        const long long step = step_;
-        const long long last = n + step - 1;
-        count = (step & (step - 1)) == 0 ? last & -step : last / step * step;
-    } else if (n >= allocLength_) {
-        for (count = allocLength_ <= 0 ? 32 : allocLength_; count < n;)
-            count *= 2;
-    } else {
-        for (count = allocLength_; count / 2 >= n;)
-            count /= 2;
-    }
-    return static_cast<int>((std::min)(count, 0LL + (std::numeric_limits<int>::max)()));
 }
 
 template <class T>

@@ -1,6 +1,13 @@
 #pragma once
 
 /// Sixteen characters at once between bytes and wide units, as far as they are ASCII.
+///
+///     Blocks::copyAscii(text, length, out)
+///
+/// copies the characters of ASCII in front of the block at `text` and returns their number.
+/// Where a wide unit of the block has its highest bit set, the number may be 0 instead. `length`, a
+/// block or more, is that of all the text left; what it is certain to fill in the block of `out`
+/// may be written over in advance.
 
 #include <algorithm>
 #include <cstddef>
@@ -14,80 +21,85 @@ namespace zarnex::platform {
 
 inline constexpr std::ptrdiff_t blockSize = 16;
 
+/// A character takes at most so many bytes.
+inline constexpr std::ptrdiff_t mostBytes = 4;
+
+/// One by one.
+struct PlainBlocks {
+    template <class In, class Out>
+    static std::ptrdiff_t copyAscii(const In* text, std::ptrdiff_t, Out* out) {
+        std::ptrdiff_t count = 0;
+        for (; count < blockSize && text[count] >= 0 && text[count] < 0x80; ++count)
+            out[count] = static_cast<Out>(text[count]);
+        return count;
+    }
+};
+
 #if defined(__SSE2__)
 
-inline void widenBlock(__m128i bytes, wchar_t* out) {
-    const __m128i zero = _mm_setzero_si128();
-    const __m128i halves[] = {_mm_unpacklo_epi8(bytes, zero), _mm_unpackhi_epi8(bytes, zero)};
-    auto* const next = reinterpret_cast<__m128i*>(out);
-    for (int i = 0; i < 2; ++i) {
+/// By vector instructions that every processor of this kind has.
+struct VectorBlocks {
+    static std::ptrdiff_t copyAscii(const unsigned char* text, std::ptrdiff_t length,
+                                    wchar_t* out) {
+        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text));
+        const auto marks = static_cast<unsigned>(_mm_movemask_epi8(bytes));
+        if (marks == 0) {
+            widen(bytes, out);
+            return blockSize; // a constant, so that the next block need not wait for a count
+        }
+        const std::ptrdiff_t count = std::countr_zero(marks);
+        if (count + (length - count) / mostBytes >= blockSize)
+            widen(bytes, out);
+        else
+            std::copy_n(text, count, out);
+        return count;
+    }
+
+    // Every unit gives a byte or more: the block is certain to be filled.
+    static std::ptrdiff_t copyAscii(const wchar_t* text, std::ptrdiff_t, char* out) {
+        const auto* const units = reinterpret_cast<const __m128i*>(text);
+        const auto part = [units](int i) { return _mm_loadu_si128(units + i); };
+        __m128i bytes; // 80 and above for units of as much, but 0 for those with the highest bit
+        unsigned highest;
         if constexpr (sizeof(wchar_t) == 2) {
-            _mm_storeu_si128(next + i, halves[i]);
+            bytes = _mm_packus_epi16(part(0), part(1));
+            highest =
+                static_cast<unsigned>(_mm_movemask_epi8(_mm_or_si128(part(0), part(1)))) & 0xAAAA;
         } else {
-            _mm_storeu_si128(next + 2 * i, _mm_unpacklo_epi16(halves[i], zero));
-            _mm_storeu_si128(next + 2 * i + 1, _mm_unpackhi_epi16(halves[i], zero));
+            bytes = _mm_packus_epi16(_mm_packs_epi32(part(0), part(1)),
+                                     _mm_packs_epi32(part(2), part(3)));
+            const __m128i all =
+                _mm_or_si128(_mm_or_si128(part(0), part(1)), _mm_or_si128(part(2), part(3)));
+            highest = static_cast<unsigned>(_mm_movemask_ps(_mm_castsi128_ps(all)));
+        }
+        const auto marks = static_cast<unsigned>(_mm_movemask_epi8(bytes));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(out), bytes);
+        if ((marks | highest) == 0)
+            return blockSize;
+        return highest != 0 ? 0 : std::countr_zero(marks);
+    }
+
+private:
+    static void widen(__m128i bytes, wchar_t* out) {
+        const __m128i zero = _mm_setzero_si128();
+        const __m128i halves[] = {_mm_unpacklo_epi8(bytes, zero), _mm_unpackhi_epi8(bytes, zero)};
+        auto* const next = reinterpret_cast<__m128i*>(out);
+        for (int i = 0; i < 2; ++i) {
+            if constexpr (sizeof(wchar_t) == 2) {
+                _mm_storeu_si128(next + i, halves[i]);
+            } else {
+                _mm_storeu_si128(next + 2 * i, _mm_unpacklo_epi16(halves[i], zero));
+                _mm_storeu_si128(next + 2 * i + 1, _mm_unpackhi_epi16(halves[i], zero));
+            }
         }
     }
-}
+};
 
-/// Widens the characters of ASCII in front of the 16 bytes at `text` and returns their
-/// number. With `mayFill`, what lies behind them in the block of `out` is written over too.
-inline std::ptrdiff_t copyAscii(const unsigned char* text, wchar_t* out, bool mayFill) {
-    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text));
-    const auto marks = static_cast<unsigned>(_mm_movemask_epi8(bytes));
-    if (marks == 0) {
-        widenBlock(bytes, out);
-        return blockSize; // a constant, so that the next block need not wait for a count
-    }
-    const std::ptrdiff_t count = std::countr_zero(marks);
-    if (mayFill)
-        widenBlock(bytes, out);
-    else
-        std::copy_n(text, count, out);
-    return count;
-}
-
-/// The same the other way.
-inline std::ptrdiff_t copyAscii(const wchar_t* text, char* out, bool mayFill) {
-    const auto* const units = reinterpret_cast<const __m128i*>(text);
-    const auto part = [units](int i) { return _mm_loadu_si128(units + i); };
-    __m128i bytes; // 80 and above for units of as much, but 0 for those with the highest bit
-    unsigned highest;
-    if constexpr (sizeof(wchar_t) == 2) {
-        bytes = _mm_packus_epi16(part(0), part(1));
-        highest = static_cast<unsigned>(_mm_movemask_epi8(_mm_or_si128(part(0), part(1)))) & 0xAAAA;
-    } else {
-        bytes =
-            _mm_packus_epi16(_mm_packs_epi32(part(0), part(1)), _mm_packs_epi32(part(2), part(3)));
-        const __m128i all =
-            _mm_or_si128(_mm_or_si128(part(0), part(1)), _mm_or_si128(part(2), part(3)));
-        highest = static_cast<unsigned>(_mm_movemask_ps(_mm_castsi128_ps(all)));
-    }
-    const auto marks = static_cast<unsigned>(_mm_movemask_epi8(bytes));
-    auto* const block = reinterpret_cast<__m128i*>(out);
-    if ((marks | highest) == 0) {
-        _mm_storeu_si128(block, bytes);
-        return blockSize;
-    }
-    const std::ptrdiff_t count = highest != 0 ? 0 : std::countr_zero(marks);
-    if (mayFill)
-        _mm_storeu_si128(block, bytes);
-    else
-        std::transform(text, text + count, out,
-                       [](wchar_t unit) { return static_cast<char>(unit); });
-    return count;
-}
+using Blocks = VectorBlocks;
 
 #else
 
-/// Copies the characters of ASCII in front of the block at `text` and returns their number.
-template <class In, class Out>
-std::ptrdiff_t copyAscii(const In* text, Out* out, bool) {
-    std::ptrdiff_t count = 0;
-    for (; count < blockSize && text[count] >= 0 && text[count] < 0x80; ++count)
-        out[count] = static_cast<Out>(text[count]);
-    return count;
-}
+using Blocks = PlainBlocks;
 
 #endif
 

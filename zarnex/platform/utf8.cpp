@@ -72,22 +72,23 @@ char32_t decodeAny(const Byte*& text, const Byte* end) {
     return value;
 }
 
-// The same, quick for well-formed sequences of two and three bytes.
+// The same, quick for well-formed sequences of two and three bytes, tested as one number: the
+// first byte is its lowest.
 inline char32_t decode(const Byte*& text, const Byte* end) {
-    const unsigned lead = *text;
-    if (end - text >= 3) {
-        const unsigned second = text[1] ^ 0x80u; // below 40 for what continues a sequence
-        const unsigned third = text[2] ^ 0x80u;
-        if (lead - 0xC2 < 0x1E && second < 0x40) {
-            text += 2;
-            return (lead & 0x1F) << 6 | second;
-        }
-        const unsigned value = (lead & 0x0F) << 12 | second << 6 | third;
-        if ((lead & 0xF0) == 0xE0 && (second | third) < 0x40 && value >= 0x800 &&
-            value - 0xD800 >= 0x800) {
+    if (end - text < 4)
+        return decodeAny(text, end);
+    const std::uint32_t bytes =
+        static_cast<std::uint32_t>(text[0]) | static_cast<std::uint32_t>(text[1]) << 8 |
+        static_cast<std::uint32_t>(text[2]) << 16 | static_cast<std::uint32_t>(text[3]) << 24;
+    if ((bytes & 0xC0C0F0) == 0x8080E0) {
+        const char32_t value = (bytes & 0x0F) << 12 | (bytes >> 2 & 0xFC0) | (bytes >> 16 & 0x3F);
+        if (value >= 0x800 && value - 0xD800 >= 0x800) {
             text += 3;
             return value;
         }
+    } else if ((bytes & 0xC0E0) == 0x80C0 && (bytes & 0x1E) != 0) {
+        text += 2;
+        return (bytes & 0x1F) << 6 | (bytes >> 8 & 0x3F);
     }
     return decodeAny(text, end);
 }
@@ -145,14 +146,6 @@ inline void encode(char32_t character, char* out) {
 
 // ---- Texts
 
-// Each character takes at most so many units of In for one of Out.
-constexpr std::ptrdiff_t mostUnits(const Byte*) {
-    return 4;
-}
-constexpr std::ptrdiff_t mostUnits(const wchar_t*) {
-    return 1;
-}
-
 // 0 if `room` does not do.
 template <class In, class Out>
 int convert(const In* text, const In* const end, Out* const out, int room) {
@@ -160,13 +153,14 @@ int convert(const In* text, const In* const end, Out* const out, int room) {
     Out* const stop = out + room;
     while (text != end) {
         if (end - text >= blockSize && stop - next >= blockSize) {
-            // Further text certain to fill the block may be written over in advance.
-            const bool mayFill = end - text >= (1 + mostUnits(text)) * blockSize;
-            const std::ptrdiff_t count = copyAscii(text, next, mayFill);
+            const std::ptrdiff_t count = Blocks::copyAscii(text, end - text, next);
             text += count;
             next += count;
             if (count == blockSize)
                 continue;
+        } else if (isAscii(*text) && next != stop) {
+            *next++ = static_cast<Out>(*text++);
+            continue;
         }
         do {
             const char32_t character = decode(text, end);
@@ -189,7 +183,7 @@ std::size_t sizeOf(const Byte* text, const Byte* end) {
     wchar_t ascii[blockSize];
     while (text != end) {
         if (end - text >= blockSize) {
-            const std::ptrdiff_t count = copyAscii(text, ascii, true);
+            const std::ptrdiff_t count = Blocks::copyAscii(text, mostBytes * blockSize, ascii);
             text += count;
             size += static_cast<std::size_t>(count);
             if (count == blockSize)

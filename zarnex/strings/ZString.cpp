@@ -28,19 +28,9 @@ std::size_t ZString::measure() const {
 
 // ---- Construction and assignment
 
-ZString::ZString() {
-    array_.setStep(growthStep);
-    truncateText(array_, 0);
-}
-
 ZString::ZString(int n, int step) : array_(toInt(notNegative(n) + 1), step) {
     setUsed(array_, notNegative(n) + 1); // done unless the allocation failed
     array_[0] = L'\0';
-}
-
-ZString::ZString(const wchar_t* text) {
-    array_.setStep(growthStep);
-    assignText(array_, text);
 }
 
 ZString::ZString(const wchar_t* text, int n) {
@@ -114,10 +104,6 @@ ZString::operator wchar_t*() {
 
 wchar_t& ZString::operator[](int i) {
     return elementOf(array_, i < 0 ? fromEnd(i) : i);
-}
-
-const wchar_t& ZString::operator[](int i) const {
-    return array_.get(i < 0 ? fromEnd(i) : i);
 }
 
 int ZString::fromEnd(int i) const {

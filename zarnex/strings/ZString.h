@@ -5,6 +5,7 @@
 #include <zarnex/containers/ZXArray.h>
 
 #include <cstddef>
+#include <cwchar>
 #include <iosfwd>
 #include <type_traits>
 #include <utility>
@@ -12,8 +13,13 @@
 class ZGenericString;
 
 namespace zarnex::detail {
+
 struct TextAccess;
-}
+
+/// The step in which the arrays of strings grow.
+inline constexpr int growthStep = 32;
+
+} // namespace zarnex::detail
 
 /// A wide-character string with value semantics: the text type of every
 /// interface of the library.
@@ -101,9 +107,7 @@ public:
         return (*this)[static_cast<int>(i)];
     }
     template <class Index, std::enable_if_t<std::is_integral_v<Index>, int> = 0>
-    const wchar_t& operator[](Index i) const {
-        return (*this)[static_cast<int>(i)];
-    }
+    const wchar_t& operator[](Index i) const;
 
     // ---- Sizes, all measured
 
@@ -326,6 +330,13 @@ private:
     ZXArray<wchar_t> array_;
 };
 
+ZARNEX_INLINE ZString::ZString() : array_(L"", 1, zarnex::detail::growthStep) {}
+
+ZARNEX_INLINE ZString::ZString(const wchar_t* text)
+    : array_(text == nullptr ? L"" : text,
+             text == nullptr ? 1 : static_cast<long long>(std::wcslen(text)) + 1,
+             zarnex::detail::growthStep) {}
+
 ZARNEX_INLINE ZString::~ZString() = default;
 
 ZARNEX_INLINE const wchar_t* ZString::text() const {
@@ -335,6 +346,15 @@ ZARNEX_INLINE const wchar_t* ZString::text() const {
 
 ZARNEX_INLINE ZString::operator const wchar_t*() const {
     return text();
+}
+
+ZARNEX_INLINE const wchar_t& ZString::operator[](int i) const {
+    return array_.get(i < 0 ? fromEnd(i) : i);
+}
+
+template <class Index, std::enable_if_t<std::is_integral_v<Index>, int>>
+const wchar_t& ZString::operator[](Index i) const {
+    return (*this)[static_cast<int>(i)];
 }
 
 ZARNEX_INLINE int ZString::allocLength() const {

@@ -9,6 +9,7 @@
 #include <zarnex/containers/ZXArray.h>
 #include <zarnex/runtime/exiting.h>
 #include <zarnex/strings/StringUtils.h>
+#include <zarnex/strings/ZString.h>
 #include <zarnex/strings/internal/convert.h>
 #include <zarnex/strings/internal/format.h>
 #include <zarnex/strings/internal/text.h>
@@ -19,8 +20,6 @@
 #include <utility>
 
 namespace zarnex::detail {
-
-inline constexpr int growthStep = 32;
 
 /// Below so many units, a conversion to bytes takes place on the stack.
 inline constexpr std::size_t shortText = 256;
