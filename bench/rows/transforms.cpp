@@ -146,6 +146,10 @@ void mapRow(Suite& suite, const std::string& name, std::size_t count) {
         "Points by one linear transform into another array; per point. \"inline\": four elements "
         "in the object, which stay in registers, not behind a pointer.",
         [count](Row& row, const auto& measure) {
+            row.why(
+                "A transform may be assigned a matrix of another shape, which moves nothing, so "
+                "each point asks for the shape. Where the compiler sees that nothing changes it in "
+                "the loop, the question goes: 0.63 ns a point, with the test or without it.");
             const std::vector<double> numbers = randomNumbers(2 * count, -100.0, 100.0, 1);
             const auto ours = pairedOnPages<DPoint>(numbers);
             const auto plain = pairedOnPages<Plain>(numbers);
@@ -199,6 +203,9 @@ void composeRow(Suite& suite) {
         "One transform after another, 1,024 in a row; per transform. \"inline\": elements in "
         "the object; there the compiler leaves out the two sums that the result does not need.",
         [](Row& row, const auto& measure) {
+            row.why("Of 5.6 ns, 3.4 come of asking for the shape, which assignment of another "
+                    "matrix may change: behind the question the compiler reads each product back "
+                    "from the heap for the next one. Without it the same loop takes 2.2 ns.");
             const auto ours = pool<Z2DTrans>();
             const auto plain = pool();
             row.per(poolSize);
@@ -260,6 +267,8 @@ void inverseRow(Suite& suite) {
         "1,024 matrices, each with the test for a singular one; per matrix. \"inline\": elements "
         "in the object, and no determinant that a derived class may override.",
         [](Row& row, const auto& measure) {
+            row.why("Of 4.9 ns, 2.1 are the questions for the shape and for a determinant that a "
+                    "derived class may override; without them the same loop takes 2.8 ns.");
             const auto ours = pool<Z2DTrans>();
             const auto plain = pool();
             Z2DTrans oursOut;
@@ -327,6 +336,9 @@ void productRow(Suite& suite) {
     suite.row("2x2 product", 1.0,
               "1,024 products of neighbours; per product. \"inline\": elements in the object.",
               [](Row& row, const auto& measure) {
+                  row.why("Of 3.7 ns, 2.0 are the questions for the shapes of all three matrices, "
+                          "which assignment may change, and what the compiler reads again behind "
+                          "them; without them the same loop takes 1.75 ns.");
                   const auto ours = pool<Z2DTrans>();
                   const auto plain = pool();
                   Z2DTrans oursOut;
