@@ -163,9 +163,17 @@ TEST(ZString, TrimsBlanksTabsAndLineEnds) {
 TEST(ZString, MapsCase) {
     ZString string(L"aB1\u00E9");
     string.toUpper();
-    EXPECT_EQ(wide(string), L"AB1\u00E9");
+    EXPECT_EQ(wide(string), isDefaultLocale() ? L"AB1\u00E9" : L"AB1\u00C9");
     string.toLower();
     EXPECT_EQ(wide(string), L"ab1\u00E9");
+
+    // The Turkish i keeps its dot or has none, in either case.
+    const std::string locale = std::setlocale(LC_ALL, nullptr);
+    const bool turkish = locale.compare(0, 2, "tr") == 0;
+    ZString letter(L"I");
+    letter.toLower();
+    EXPECT_EQ(wide(letter), turkish ? L"\u0131" : L"i");
+    EXPECT_EQ(ZString(L"INCH") == L"inch", !turkish);
 }
 
 TEST(ZString, EditsLikeTheStandardString) {

@@ -1,3 +1,5 @@
+#include "tests/support.h"
+
 #include <zarnex/runtime/exiting.h>
 #include <zarnex/units/ZUnitScanner.h>
 
@@ -71,6 +73,7 @@ TEST(ZUnitScanner, TakesTheLongestTokenAndDropsTheRestUnderEveryLocale) {
         {allOnes, "=2"},
         {L"1\r\n2\u00B0", "=1 =2"},
     };
+    const KeptLocale kept;
     for (const char* locale : {"C", "", "de_DE.UTF-8", "tr_TR.UTF-8", "German", "Turkish"}) {
         if (std::setlocale(LC_ALL, locale) == nullptr)
             continue; // not on this machine; "C" always is
@@ -81,7 +84,6 @@ TEST(ZUnitScanner, TakesTheLongestTokenAndDropsTheRestUnderEveryLocale) {
             EXPECT_EQ(scanner.yylex(), 0) << "the end must last";
         }
     }
-    std::setlocale(LC_ALL, "C");
 }
 
 TEST(ZUnitScanner, TellsWhereTokensStandAndWhetherAWordWasDropped) {
@@ -154,7 +156,8 @@ public:
                 continue;
             }
             if (token == 1 && text.find_first_of("0123456789", at) < at + length)
-                number_ = std::strtod(text.substr(at, length).c_str(), nullptr);
+                number_ = inDefaultLocale(
+                    [&] { return std::strtod(text.substr(at, length).c_str(), nullptr); });
             if (token != 0) {
                 out << token << '@' << at << '-' << at + length << (dropped ? "!" : "") << '='
                     << number_ << ' ';
