@@ -253,13 +253,20 @@ Group listOperations() {
                  t.attempt([&] { list[0] = DPoint(1.0, 2.0); });
                  t.expect(isRing(list, 0));
              }},
-            {"ZList joined, moved, emptied", asksNothing,
+            {"ZList move", throwsBad,
+             [](Trial& t) {
+                 ZList<int> list{1, 2, 3};
+                 t.attempt([&] { list.move(0, 2); });
+                 t.expect(isRing(list, t.threw() ? 2 : 3)); // taken out and not put back
+             }},
+            {"ZList joined, injected, removed, handed over", asksNothing,
              [](Trial& t) {
                  ZList<int> list{1, 2, 3};
                  ZList<int> other{4};
                  t.attempt([&] {
                      list.join(other);
-                     list.move(0, 2);
+                     other.inject(list, 0);
+                     list.join(other);
                      list.remove(1);
                      ZList<int> moved(std::move(list));
                      list = std::move(moved);

@@ -146,7 +146,7 @@ Group runtimeOperations() {
                  });
                  t.expect(bead.isBead1());
              }},
-            {"ZGUIDWrapper setters", endsAlloc,
+            {"ZGUIDWrapper setters", asksNothing,
              [](Trial& t) {
                  ZGUIDWrapper shape(0);
                  t.attempt([&] {

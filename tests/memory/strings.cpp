@@ -109,7 +109,7 @@ Group stringOperations() {
             {"ZString = narrow", endsAlloc,
              [](Trial& t) {
                  edited<S>(
-                     t, L"", [](S& s) { s = "narrow"; }, L"narrow");
+                     t, L"", [](S& s) { s = longBytes.c_str(); }, std::wstring(600, L'n').c_str());
              }},
             {"ZString += ZString", endsAlloc,
              [](Trial& t) {
@@ -140,7 +140,8 @@ Group stringOperations() {
             {"ZString += int", endsAlloc,
              [](Trial& t) {
                  edited<S>(
-                     t, L"", [](S& s) { s += 1234567890; }, L"1234567890");
+                     t, L"a length of thirty characters ", [](S& s) { s += 1234567890; },
+                     L"a length of thirty characters 1234567890");
              }},
             {"ZString + wide + int", endsAlloc,
              [](Trial& t) {
@@ -210,7 +211,8 @@ Group stringOperations() {
             {"ZString set", endsAlloc,
              [](Trial& t) {
                  edited<S>(
-                     t, L"", [](S& s) { s.set(L"%.1f %d", 2.5, 7); }, L"2.5 7");
+                     t, L"", [](S& s) { s.set(L"%.1f %40d", 2.5, 7); },
+                     L"2.5                                        7");
              }},
             {"ZString set, long", endsAlloc,
              [](Trial& t) {
@@ -350,7 +352,7 @@ Group encodedStringOperations() {
             {"ZWideString = narrow", endsAlloc,
              [](Trial& t) {
                  edited<W>(
-                     t, L"", [](W& w) { w = "narrow"; }, L"narrow");
+                     t, L"", [](W& w) { w = longBytes.c_str(); }, std::wstring(600, L'n').c_str());
              }},
             {"ZWideString += narrow", endsAlloc,
              [](Trial& t) {
