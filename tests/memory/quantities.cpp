@@ -128,10 +128,11 @@ Group scannerOperations() {
              }},
             {"yy_scan(size)", endsScanner,
              [](Trial& t) {
-                 std::optional<yy_scan> engine;
-                 t.attempt([&] { engine.emplace(50); });
-                 engine->yyin = nullptr;
-                 t.expect(engine->yylex() == 0);
+                 t.attempt([&] {
+                     yy_scan engine(50);
+                     engine.yyin = nullptr;
+                     t.expect(engine.yylex() == 0);
+                 });
              }},
         },
     };

@@ -155,9 +155,9 @@ public:
                 ++at;
                 continue;
             }
-            if (token == 1 && text.find_first_of("0123456789", at) < at + length)
-                number_ = inDefaultLocale(
-                    [&] { return std::strtod(text.substr(at, length).c_str(), nullptr); });
+            const std::string word = text.substr(at, length);
+            if (token == 1 && word.find_first_of("0123456789") != std::string::npos)
+                number_ = inDefaultLocale([&word] { return std::strtod(word.c_str(), nullptr); });
             if (token != 0) {
                 out << token << '@' << at << '-' << at + length << (dropped ? "!" : "") << '='
                     << number_ << ' ';
