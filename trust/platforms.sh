@@ -27,8 +27,14 @@ quantities() {
     }
     BEGIN {
         srand(20260105)
-        for (i = 0; i < lines; ++i)
-            print any("||||||||about | |~|mm ") number() any("| |  |\t") unit() any("||||||||| |.| x")
+        while (lines > 0) {
+            text = any("||||||||about | |~|mm ") number() any("| |  |\t") unit() \
+                any("||||||||| |.| x")
+            if (text ~ /[^ \t]/) {
+                print text
+                --lines
+            }
+        }
     }' </dev/null
 }
 
