@@ -121,13 +121,13 @@ Both host programs ran on the same generated input on Linux and, as Windows prog
 Wine: $((valid + invalid)) typed texts, of which $valid were valid and $invalid invalid in millimetres, once
 for each of the eight units that a bare number can count in; and $plans variations of the three
 motifs (angles, spacings, stitch lengths, units, scales, repeats), of which $planned could be
-planned and the others were refused. Compared byte for byte:
+planned and the others were refused. Compared byte for byte, without a difference:
 
-| | files | bytes | that differ |
-|---|---|---|---|
-| tables of quantities | $(figures 'units-*.out') | 0 |
-| summaries of plans | $(figures 'plan-*.out') | 0 |
-| pictures | $(figures '*.svg') | 0 |
-| error messages | $(figures '*.err') | 0 |
-| exit statuses | $(figures '*.status') | 0 |
+| | files | bytes |
+|---|---|---|
+| tables of quantities | $(figures 'units-*.out') |
+| summaries of plans | $(figures 'plan-*.out') |
+| pictures | $(figures '*.svg') |
+| error messages | $(figures '*.err') |
+| exit statuses | $(figures '*.status') |
 END
