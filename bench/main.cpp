@@ -20,9 +20,10 @@ constexpr const char* usage =
     "--peers tells which peers this program was built with.\n";
 
 constexpr void (*topics[])(bench::Suite&) = {
-    bench::listRows,      bench::arrayRows,    bench::sortRows,       bench::stringRows,
-    bench::encodingRows,  bench::quantityRows, bench::pointRows,      bench::geometryRows,
-    bench::transformRows, bench::randomRows,   bench::identifierRows, bench::bigIntegerRows,
+    bench::listRows,       bench::arrayRows,     bench::sortRows,   bench::stringRows,
+    bench::encodingRows,   bench::quantityRows,  bench::threadRows, bench::pointRows,
+    bench::geometryRows,   bench::transformRows, bench::randomRows, bench::identifierRows,
+    bench::bigIntegerRows,
 };
 
 } // namespace

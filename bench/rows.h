@@ -12,8 +12,10 @@ void sortRows(Suite& suite);
 void stringRows(Suite& suite);
 void encodingRows(Suite& suite);
 void quantityRows(Suite& suite);
+void threadRows(Suite& suite);
 void pointRows(Suite& suite);
 void geometryRows(Suite& suite);
+void rootRows(Suite& suite); // of the topic geometry
 void transformRows(Suite& suite);
 void randomRows(Suite& suite);
 void identifierRows(Suite& suite);

@@ -28,6 +28,8 @@ bool isSign(char c) {
 // Whether a token could reach `tokenRoom`. Numbers and white space alone have no
 // greatest length, and a sign begins a number.
 bool overrunsScanner(std::wstring_view text) {
+    if (text.size() < std::size_t{tokenRoom})
+        return false;
     int digits = 0;
     int blanks = 0;
     for (const wchar_t unit : text) {

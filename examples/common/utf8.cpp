@@ -1,5 +1,6 @@
 #include "common/utf8.h"
 
+#include <algorithm>
 #include <cstddef>
 
 namespace host {
@@ -19,6 +20,14 @@ std::size_t lengthFrom(unsigned char lead) {
 
 bool isControl(char32_t c) {
     return c < 0x20 || (c >= 0x7F && c < 0xA0);
+}
+
+// The characters at the start that are shown and widened as they stand, most of what is typed.
+template <class Text>
+std::size_t plainLength(const Text& text) {
+    const auto isPlain = [](auto unit) { return unit >= 0x20 && unit < 0x7F; };
+    const auto end = std::find_if_not(text.begin(), text.end(), isPlain);
+    return static_cast<std::size_t>(end - text.begin());
 }
 
 } // namespace
@@ -68,16 +77,19 @@ void appendUtf8(std::string& out, char32_t character) {
 }
 
 std::string toUtf8(std::wstring_view text) {
-    std::string out;
-    out.reserve(text.size());
-    for (const wchar_t unit : text)
+    const std::size_t plain = plainLength(text);
+    std::string out(plain, '\0');
+    std::transform(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(plain), out.begin(),
+                   [](wchar_t unit) { return static_cast<char>(unit); });
+    for (const wchar_t unit : text.substr(plain))
         appendUtf8(out, static_cast<char32_t>(unit));
     return out;
 }
 
 bool toWide(std::string_view text, std::wstring& wide) {
-    wide.clear();
-    wide.reserve(text.size());
+    const std::size_t plain = plainLength(text);
+    wide.assign(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(plain));
+    text.remove_prefix(plain);
     while (!text.empty()) {
         const char32_t c = nextCharacter(text);
         if (c == illFormed)
@@ -97,8 +109,14 @@ bool isText(std::string_view text) {
 }
 
 void appendShown(std::string& out, std::string_view text, int most) {
-    for (int count = 0; !text.empty(); ++count) {
-        if (count == most) {
+    for (auto room = static_cast<std::size_t>(most);; --room) {
+        const std::size_t plain = (std::min)(plainLength(text), room);
+        out.append(text, 0, plain);
+        text.remove_prefix(plain);
+        room -= plain;
+        if (text.empty())
+            return;
+        if (room == 0) {
             out += "…";
             return;
         }

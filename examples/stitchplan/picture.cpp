@@ -37,17 +37,38 @@ public:
 
     /// A length in points as millimetres, to a hundredth.
     Drawing& operator<<(double points) {
-        char digits[64];
-        const double hundredths = zarnex::roundHalfAway(points * 10.0); // never -0
-        const auto end = std::to_chars(digits, digits + sizeof digits, hundredths / 100.0).ptr;
-        return *this << std::string_view(digits, static_cast<std::size_t>(end - digits));
+        char digits[mostDigits];
+        return *this << std::string_view(digits, written(digits, points));
     }
 
     Drawing& operator<<(const DPoint& p) {
-        return *this << p.x << " " << -p.y;
+        char digits[2 * mostDigits + 1];
+        std::size_t length = written(digits, p.x);
+        digits[length++] = ' ';
+        length += written(digits + length, -p.y);
+        return *this << std::string_view(digits, length);
     }
 
 private:
+    static constexpr std::size_t mostDigits = 16;
+
+    static std::size_t written(char* out, double points) {
+        char* end = out;
+        long long hundredths = zarnex::roundHalfAwayToInt(points * 10.0);
+        if (hundredths < 0) {
+            *end++ = '-';
+            hundredths = -hundredths;
+        }
+        end = std::to_chars(end, out + mostDigits, hundredths / 100).ptr;
+        if (hundredths % 100 != 0) {
+            *end++ = '.';
+            *end++ = static_cast<char>('0' + hundredths / 10 % 10);
+            if (hundredths % 10 != 0)
+                *end++ = static_cast<char>('0' + hundredths % 10);
+        }
+        return static_cast<std::size_t>(end - out);
+    }
+
     const std::function<void(std::string_view)>& write_;
     std::string text_;
 };
@@ -100,7 +121,7 @@ void drawOutlines(Drawing& out, const Plan& plan) {
            "stroke-linejoin=\"round\">\n";
     for (const Z2DTrans& copy : plan.copies)
         for (const Outline& outline : plan.motif.outlines) {
-            const char* lead = "<path d=\"M";
+            std::string_view lead = "<path d=\"M";
             for (int i = 0; i < outline.corners.length(); ++i) {
                 out << lead << copy * outline.corners[i];
                 lead = "L";
@@ -115,7 +136,7 @@ void drawOutlines(Drawing& out, const Plan& plan) {
 void drawThreads(Drawing& out, const StitchPath& path, const std::function<void(int)>& progress) {
     out << "<defs><g id=\"threads\">\n";
     for (int thread = 0; thread < path.threads(); ++thread) {
-        const char* lead = "<path d=\"M";
+        std::string_view lead = "<path d=\"M";
         for (int i = path.threadBegin(thread); i < path.threadBegin(thread + 1); ++i) {
             out << lead << path.needle(i);
             lead = "L";

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <climits>
 #include <cmath>
+#include <iterator>
 #include <list>
 #include <random>
 #include <vector>
@@ -108,6 +109,32 @@ TEST(Turn, IsTheSignOfTheCrossProductWithoutTolerance) {
     };
     for (const auto& row : rows)
         EXPECT_EQ(Are3PointsCCW(row.a, row.b, row.c), row.turn) << &row - rows;
+}
+
+// The formula itself, without the short way for turns that are certain.
+TEST(Turn, AgreesWithTheNormalizedCrossProduct) {
+    std::mt19937 random(5);
+    std::uniform_real_distribution<double> mantissa(-1.0, 1.0);
+    const int exponents[] = {-1000, -520, -180, -30, -17, -1, 0, 20, 160, 510, 530, 1000};
+    const auto coordinate = [&](int exponent) { return std::ldexp(mantissa(random), exponent); };
+    int straight = 0;
+    for (int i = 0; i < 60000; ++i) {
+        const int scale = exponents[random() % std::size(exponents)];
+        const int other = random() % 2 ? scale : exponents[random() % std::size(exponents)];
+        const DPoint a(0.0, 0.0);
+        const DPoint b(coordinate(scale), coordinate(scale));
+        DPoint c(coordinate(other), coordinate(other));
+        if (i % 2 == 0) // nearly straight on, or exactly
+            c = b + DVector(b.x, b.y) * mantissa(random) +
+                DVector(coordinate(scale - 50), coordinate(scale - 53)) *
+                    static_cast<int>(random() % 3);
+        const double k = (b - a).normalize().cross((c - b).normalize());
+        const int expected = k > 0.0 ? 1 : k < 0.0 ? -1 : 0;
+        straight += expected == 0;
+        ASSERT_EQ(Are3PointsCCW(a, b, c), expected)
+            << b.x << " " << b.y << ", " << c.x << " " << c.y;
+    }
+    EXPECT_GT(straight, 1000);
 }
 
 TEST(Winding, OfSmallOutlines) {

@@ -1,6 +1,7 @@
 #include <zarnex/geometry/circleCentre.h>
 #include <zarnex/geometry/cubic.h>
 #include <zarnex/geometry/quadratic.h>
+#include <zarnex/geometry/tolerance.h>
 
 #include "hostileValues.h"
 
@@ -8,9 +9,32 @@
 
 #include <algorithm>
 #include <cmath>
+#include <random>
 #include <vector>
 
 namespace {
+
+// The test by the sine itself, without the short way for steps that are clearly bent.
+TEST(CircleCentre, IsRefusedByTheSineOfNormalizedSteps) {
+    std::mt19937 random(6);
+    std::uniform_real_distribution<double> mantissa(-1.0, 1.0);
+    int refused = 0;
+    for (int i = 0; i < 20000; ++i) {
+        const double size = std::ldexp(1.0, static_cast<int>(random() % 24) - 12);
+        const DVector u = DVector(mantissa(random), mantissa(random)) * size;
+        // Sines from 0 to about 0.02, most of them next to the bound.
+        const double sine = 0.01 + std::ldexp(mantissa(random), -7 - static_cast<int>(i % 45));
+        const DPoint p1(0.0, 0.0), p2(u.x, u.y);
+        const DPoint p3 = p1 + u * std::sqrt(1.0 - sine * sine) + u.ortho(1) * sine;
+        if (isEqual(p3, p2, 1e-7) || isEqual(p2, p1, 1e-7) || u.squaredLength() < 1e-4)
+            continue;
+        const bool isStraight =
+            std::fabs((p2 - p1).normalize().cross((p3 - p1).normalize())) < 0.01;
+        refused += isStraight;
+        ASSERT_EQ(computeCentre(nullptr, p1, p2, p3), isStraight ? -1 : 0) << u.x << " " << u.y;
+    }
+    EXPECT_GT(refused, 1000);
+}
 
 TEST(CircleCentre, TheTwoRefuseDifferentPoints) {
     const DPoint before(-12345, -12345);

@@ -3,6 +3,8 @@
 #include <zarnex/strings/ZString.h>
 
 #include <climits>
+#include <clocale>
+#include <cwctype>
 #include <random>
 
 namespace {
@@ -36,6 +38,49 @@ TEST(ZString, FindsText) {
     }
     EXPECT_EQ(ZString().findString(L"a", -3, 0), -1);
     EXPECT_EQ(ZString().findString(L"", -3, 0), 0);
+}
+
+// In several locales: that of the test, one that maps more than A to Z, and one in which
+// I and i are two letters. Those that the system lacks are left out.
+TEST(ZString, SearchesAndComparesAsUnitByUnitMappingTells) {
+    const auto lower = [](std::wstring text) {
+        for (wchar_t& unit : text)
+            unit = static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(unit)));
+        return text;
+    };
+    // U+0130 and U+212A, the Kelvin sign, have lower cases in ASCII.
+    constexpr wchar_t units[] = L"aaaaaaAAbBiIkKz@[\u00E9\u00C9\u0130\u0131\u212A\uFF21";
+    std::mt19937 engine(11);
+    for (const char* const locale : {"C", "C.UTF-8", "tr_TR.UTF-8", "Turkish_Turkey.1254"}) {
+        if (std::setlocale(LC_CTYPE, locale) == nullptr)
+            continue;
+        SCOPED_TRACE(locale);
+        for (int turn = 0; turn < 4000; ++turn) {
+            const auto random = [&](std::size_t most) {
+                std::wstring text(engine() % (most + 1), L'\0');
+                for (wchar_t& unit : text)
+                    unit = units[engine() % (std::size(units) - 1)];
+                return text;
+            };
+            const std::wstring text = random(70);
+            const std::wstring wanted = L"a" + random(turn % 2 == 0 ? 1 : 4);
+            const ZString string(text.c_str());
+            ASSERT_EQ(string.findString(wanted.c_str(), 0, 0), static_cast<int>(text.find(wanted)));
+            ASSERT_EQ(string.findString(wanted.c_str(), 0, 1),
+                      static_cast<int>(lower(text).find(lower(wanted))));
+
+            const std::wstring other = turn % 3 == 0 ? lower(text) : text + wanted;
+            const int order = lower(text).compare(lower(other));
+            ASSERT_EQ(string.compare(other.c_str()), order < 0 ? -1 : order > 0);
+            if (order == 0) {
+                ASSERT_EQ(string.hash(), ZString(other.c_str()).hash());
+            }
+            ZString mapped(string);
+            mapped.toLower();
+            ASSERT_EQ(wide(mapped), lower(text));
+        }
+    }
+    std::setlocale(LC_CTYPE, "C");
 }
 
 TEST(ZString, FindsOneOfASet) {

@@ -2,6 +2,7 @@
 
 #include <zarnex/strings/ZString.h>
 
+#include <charconv>
 #include <climits>
 #include <cmath>
 #include <cstdint>
@@ -9,6 +10,7 @@
 #include <cstring>
 #include <limits>
 #include <random>
+#include <vector>
 
 namespace {
 
@@ -145,6 +147,30 @@ TEST(ZStringSet, AgreesWithTheStandardFormatterOnRandomDoubles) {
 #endif
         ASSERT_EQ(formatted(ZString(format), value), wide(ZString(expected)))
             << format << " of " << value;
+    }
+}
+
+// Digits in integers, against the standard library's: halves, what carries, the edges of
+// the range, and numbers of any size in between.
+TEST(ZStringSet, RoundsShortDecimalsExactly) {
+    std::vector<double> values = {0.0,    0.5,     1.5,      2.5,        0.125,
+                                  0.0625, 9.995,   0.999999, 99.99,      999999999.9999999,
+                                  1e9,    0x1p-11, 0x1p53,   0x1.8p-12,  0.00048828125,
+                                  1e-300, 5e-324,  1e22,     0x1.fffp52, 4503599627370495.5};
+    std::mt19937_64 random(5);
+    for (int turn = 0; turn < 5000; ++turn) {
+        const auto bits = static_cast<double>(random() >> 11);
+        values.push_back(std::ldexp(bits, -static_cast<int>(random() % 70)));
+        values.push_back(std::floor(bits / 0x1p30) / 1024); // many halves
+    }
+    for (const double value : values) {
+        for (int precision = 0; precision <= 10; ++precision) {
+            char expected[400];
+            *std::to_chars(expected, expected + sizeof expected, value, std::chars_format::fixed,
+                           precision)
+                 .ptr = '\0';
+            ASSERT_EQ(formatted(L"%.*f", precision, value), wide(ZString(expected)));
+        }
     }
 }
 

@@ -4,6 +4,7 @@
 #include <zarnex/strings/StringUtils.h>
 #include <zarnex/strings/conversions.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <random>
@@ -136,6 +137,38 @@ TEST(Utf8, EveryKindOfTextConvertsBothWaysByAllFunctions) {
         ASSERT_EQ(bytesOut.allocLength(), static_cast<int>(bytes.size()) + 1);
     }
     EXPECT_EQ(bytesOf(strToUtf8(L"\u00E9")), "\xC3\xA9");
+}
+
+TEST(Utf8, WritesWholeCharactersAndNothingBehindThem) {
+    if (!isSystemCodePage(utf8))
+        GTEST_SKIP() << "bounded copies are in the system code page";
+    std::mt19937 engine(3);
+    for (int turn = 0; turn < 2000; ++turn) {
+        std::string bytes;
+        std::wstring units;
+        while (units.size() < 40 + engine() % 160)
+            append(bytes, units, engine() % 4 == 0 ? 0x80 + engine() % 0x2000 : 'a');
+        const std::size_t needed[] = {units.size() + 1, bytes.size() + 1};
+        const std::size_t room = 1 + engine() % 400;
+        std::vector<wchar_t> wideOut(room, L'~');
+        std::vector<char> bytesOut(room, '~');
+        StringUtils::copyString(wideOut.data(), bytes.c_str(), room);
+        StringUtils::copyString(bytesOut.data(), units.c_str(), room);
+
+        // What fits stays in front of '~'; of what does not, whole characters and zeros.
+        const auto check = [room](const auto& out, const auto& text, std::size_t size) {
+            const std::size_t written =
+                std::char_traits<std::decay_t<decltype(out[0])>>::length(out.data());
+            ASSERT_EQ(text.compare(0, written, out.data()), 0);
+            ASSERT_EQ(written == text.size(), size <= room);
+            ASSERT_GE(written + 4, (std::min)(size, room));
+            for (std::size_t i = written + 1; i + 1 < room; ++i)
+                ASSERT_EQ(out[i], size <= room ? '~' : '\0') << i << " of " << room;
+        };
+        check(wideOut, units, needed[0]);
+        check(bytesOut, bytes, needed[1]);
+        ASSERT_FALSE(HasFatalFailure());
+    }
 }
 
 TEST(CodePages, TheFunctionsTakeTheCodePageOrTheSystems) {

@@ -75,7 +75,7 @@ TEST(ZMatrix, AssignmentTakesTheShapeAndKeepsFittingStorage) {
 TEST(ZMatrix, ProductAgreesWithPlainSumsAlsoInPlace) {
     std::mt19937 random(7);
     for (int round = 0; round < 300; ++round) {
-        const int n = static_cast<int>(random() % 5);
+        const int n = static_cast<int>(random() % 11);
         const int rows = round % 3 == 0 ? 3 : n; // every third cannot be in place
         Matrix a(rows, n, nullptr), b(n, n, nullptr), separate(rows, n, nullptr);
         for (int i = 0; i < n * n; ++i)

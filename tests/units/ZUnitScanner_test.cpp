@@ -10,6 +10,7 @@
 #include <chrono>
 #include <clocale>
 #include <cstdlib>
+#include <iterator>
 #include <optional>
 #include <random>
 #include <sstream>
@@ -310,6 +311,56 @@ public:
 TEST(ZUnitScanner, DerivedScannersChangeTheCharacters) {
     CommaScanner scanner(L"12,5 mm");
     EXPECT_EQ(tokensOf(scanner), "=12.5 2");
+}
+
+// Derived, so that it reads character by character.
+class FedScanner : public ZUnitScanner {
+public:
+    using ZUnitScanner::ZUnitScanner;
+};
+
+// All that a scanner tells, where the host takes a character behind `taken` tokens.
+template <class Scanner>
+std::string told(const std::wstring& text, int taken) {
+    ZUnitScanner(L"0").yylex(); // a lone sign has this number
+    Scanner scanner(text.c_str());
+    std::ostringstream out;
+    for (int token = -1, count = 0; token != 0; ++count) {
+        if (count == taken)
+            out << "<" << scanner.yygetc() << "> ";
+        token = scanner.yylex();
+        out << token << '@' << scanner.tokenBegin() << '-' << scanner.tokenEnd()
+            << (scanner.wordDropped() ? "!" : "") << '=' << scanner.value << ' ';
+    }
+    return out.str();
+}
+
+TEST(ZUnitScanner, ReadsItsTextInPlaceAsItReadsByCharacters) {
+    const wchar_t* const pieces[] = {
+        L" ",      L" ",      L"\t",     L"\n",     L"\r",     L"7",      L"12",     L".5",
+        L"-",      L"mm",     L"per sq", L" cm",    L"stitch", L"es per", L"In",     L"x",
+        L"\u0132", L"\u016D", L"\u010D", L"\u010A", L"\u0120", L"\u0100", L"\u00FF", L"\u00C9"};
+    std::mt19937 random(20260208);
+    for (int round = 0; round < 20000; ++round) {
+        std::wstring text;
+        for (std::size_t n = random() % 12; n > 0; --n)
+            text += pieces[random() % std::size(pieces)];
+        const int taken = static_cast<int>(random() % 6);
+        ASSERT_EQ(told<ZUnitScanner>(text, taken), told<FedScanner>(text, taken))
+            << "text: " << text << ", " << taken;
+    }
+}
+
+TEST(ZUnitScanner, ReadsShortAndLongNumbersToTheNearestDouble) {
+    std::mt19937_64 random(20260209);
+    for (int round = 0; round < 20000; ++round) {
+        std::string number = std::to_string(random() >> random() % 64);
+        number.insert(random() % number.size(), ".");
+        const std::wstring text(number.begin(), number.end());
+        ZUnitScanner scanner(text.c_str());
+        ASSERT_EQ(scanner.yylex(), 1);
+        ASSERT_EQ(scanner.value, std::strtod(number.c_str(), nullptr)) << number;
+    }
 }
 
 } // namespace

@@ -2,8 +2,8 @@
 
 #include <zarnex/bigint/internal/Montgomery.h>
 #include <zarnex/bigint/internal/Scratch.h>
+#include <zarnex/bigint/internal/kernels.h>
 #include <zarnex/bigint/internal/limbs.h>
-#include <zarnex/bigint/internal/multiplication.h>
 #include <zarnex/bigint/internal/power.h>
 
 #include <algorithm>
@@ -26,13 +26,12 @@ public:
     }
 
     void multiply(Limb* out, const Limb* a, const Limb* b) {
-        multiplyLow(product_, a, b, count_);
+        kernels().multiplyLow(product_, a, b, count_);
         std::copy_n(static_cast<Limb*>(product_), count_, out);
     }
 
     void square(Limb* out, const Limb* a) {
-        squareLow(product_, a, count_);
-        std::copy_n(static_cast<Limb*>(product_), count_, out);
+        multiply(out, a, a);
     }
 
 private:

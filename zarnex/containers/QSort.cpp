@@ -10,24 +10,28 @@
 namespace {
 
 struct Sort {
-    QSort::Callback* callback;  // null once it has thrown
-    std::exception_ptr failure; // what it threw
+    QSort::Callback* callback;   // null once it has thrown
+    std::exception_ptr* failure; // what it threw
 };
 
-// The sort in progress, guarded by the sort lock; null between sorts.
-Sort* current = nullptr;
+// The sort in progress, guarded by the sort lock; nulls between sorts.
+Sort current{};
+
+// Apart from compareElements(), which would have to guard its stack for the sake of it.
+[[gnu::noinline]] void keepFailure() {
+    current.callback = nullptr;
+    *current.failure = std::current_exception();
+}
 
 extern "C" int compareElements(const void* a, const void* b) {
     // An exception must not cross the C library: it waits until the sort has run out, with
     // all elements equal.
-    QSort::Callback* const callback = current->callback;
-    if (callback == nullptr)
+    if (ZARNEX_UNLIKELY(current.callback == nullptr))
         return 0;
     try {
-        return callback->compare(a, b);
+        return current.callback->compare(a, b);
     } catch (...) {
-        current->callback = nullptr;
-        current->failure = std::current_exception();
+        keepFailure();
         return 0;
     }
 }
@@ -41,14 +45,14 @@ void QSort::sort(void* base, std::size_t count, std::size_t size, Callback& cb) 
         count > (std::numeric_limits<std::size_t>::max)() / size)
         return;
 
-    Sort run{&cb, nullptr};
+    std::exception_ptr failure;
     {
         const MiniGuard guard(zarnex::detail::sortLock());
-        Sort* const outer = current; // of the callback that called us, if any
-        current = &run;
+        const Sort outer = current; // of the callback that called us, if any
+        current = {&cb, &failure};
         std::qsort(base, count, size, compareElements);
         current = outer;
     }
-    if (run.failure != nullptr)
-        std::rethrow_exception(run.failure);
+    if (failure != nullptr)
+        std::rethrow_exception(failure);
 }

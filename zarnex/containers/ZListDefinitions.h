@@ -6,7 +6,20 @@
 #include <zarnex/containers/ZList.h>
 #include <zarnex/runtime/exiting.h>
 
+#include <new>
 #include <type_traits>
+
+namespace zarnex::detail {
+
+/// Without the size that a delete expression hands over: the runtime only drops it, by one
+/// more call for each node.
+template <class T>
+void freeNode(ZListNode<T>* node) {
+    node->~ZListNode<T>();
+    ::operator delete(node);
+}
+
+} // namespace zarnex::detail
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE ZList<T>::ZList() {}
@@ -99,7 +112,7 @@ ZARNEX_TEMPLATE_INLINE void ZList<T>::remove(ZListNode<T>*& node) {
     if (head_ == node)
         head_ = nullptr;
     --count_;
-    delete node;
+    zarnex::detail::freeNode(node);
     node = nullptr;
 }
 
@@ -113,7 +126,7 @@ void ZList<T>::empty() {
     count_ = 0;
     while (node != nullptr) {
         ZListNode<T>* const next = node->next;
-        delete node;
+        zarnex::detail::freeNode(node);
         node = next;
     }
 }

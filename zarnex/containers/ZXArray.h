@@ -157,6 +157,7 @@ protected:
 
 private:
     static T& store(T& slot, const T& value);
+    T& reach(int i);
     void extendTo(int i);
 
     T* data_;

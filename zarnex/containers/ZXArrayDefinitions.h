@@ -7,12 +7,54 @@
 #include <zarnex/runtime/exiting.h>
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdlib>
 #include <limits>
 #include <new>
+#include <type_traits>
 #include <utility>
 
+namespace zarnex::detail {
+
+/// Whether arrays move elements as plain bytes, in a block of the C library's heap.
 template <class T>
-ZXArray<T>::ZXArray()
+inline constexpr bool movesAsBytes = std::is_trivially_copyable_v<T> &&
+                                     alignof(T) <= alignof(std::max_align_t);
+
+template <class T>
+void release(T* storage) {
+    if constexpr (movesAsBytes<T>)
+        std::free(storage);
+    else
+        delete[] storage;
+}
+
+/// Storage of `count` slots in place of `storage`: with as many of its `kept` elements as fit,
+/// and default-constructed ones. Null, with `storage` as it was, if there is no memory.
+template <class T>
+T* resized(T* storage, int kept, int count) {
+    const auto slots = static_cast<std::size_t>(count);
+    kept = (std::min)(kept, count);
+    if constexpr (movesAsBytes<T>) {
+        // The heap can often enlarge a block where it stands.
+        T* const moved = static_cast<T*>(std::realloc(storage, slots * sizeof(T)));
+        for (int i = kept; moved != nullptr && i < count; ++i)
+            ::new (static_cast<void*>(moved + i)) T;
+        return moved;
+    } else {
+        T* const fresh = new (std::nothrow) T[slots];
+        if (fresh != nullptr) {
+            std::move(storage, storage + kept, fresh);
+            release(storage);
+        }
+        return fresh;
+    }
+}
+
+} // namespace zarnex::detail
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE ZXArray<T>::ZXArray()
     : data_(nullptr), empty_(), allocLength_(0), length_(0), step_(-1), emptySet_(0) {}
 
 template <class T>
@@ -48,7 +90,7 @@ ZXArray<T>& ZXArray<T>::operator=(const ZXArray& other) {
     if (allocLength_ != other.allocLength_) {
         reset();
         if (other.allocLength_ > 0)
-            data_ = new (std::nothrow) T[static_cast<std::size_t>(other.allocLength_)];
+            data_ = zarnex::detail::resized<T>(nullptr, 0, other.allocLength_);
         allocLength_ = data_ == nullptr ? 0 : other.allocLength_;
     }
     length_ = data_ == nullptr ? 0 : other.length_;
@@ -66,8 +108,8 @@ ZXArray<T>& ZXArray<T>::operator=(ZXArray&& other) noexcept {
 }
 
 template <class T>
-ZXArray<T>::~ZXArray() {
-    delete[] data_;
+ZARNEX_TEMPLATE_INLINE ZXArray<T>::~ZXArray() {
+    zarnex::detail::release(data_);
 }
 
 template <class T>
@@ -90,11 +132,9 @@ int ZXArray<T>::operator!=(const ZXArray& other) const {
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE T& ZXArray<T>::get(int i) {
-    if (i < 0)
-        i = 0;
-    if (i >= length_)
-        extendTo(i);
-    return data_[i];
+    if (static_cast<unsigned>(i) < static_cast<unsigned>(length_))
+        return data_[i];
+    return reach(i);
 }
 
 template <class T>
@@ -109,9 +149,9 @@ ZARNEX_TEMPLATE_INLINE T& ZXArray<T>::operator()(int i) {
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE const T& ZXArray<T>::get(int i) const {
-    if (i < 0)
-        i = 0;
-    return i < allocLength_ ? data_[i] : empty_;
+    if (static_cast<unsigned>(i) < static_cast<unsigned>(allocLength_))
+        return data_[i];
+    return i < 0 && allocLength_ > 0 ? data_[0] : empty_;
 }
 
 template <class T>
@@ -201,15 +241,14 @@ void ZXArray<T>::remove(int i) {
 template <class T>
 int ZXArray<T>::find(const T& value, int fromEnd) const {
     if (fromEnd == 0) {
-        for (int i = 0; i < length_; ++i) {
-            if (data_[i] == value)
-                return i;
-        }
-    } else {
-        for (int i = length_ - 1; i >= 0; --i) {
-            if (data_[i] == value)
-                return i;
-        }
+        const T* const first = data_;
+        const T* const end = first + length_;
+        const T* const found = std::find(first, end, value);
+        return found != end ? static_cast<int>(found - first) : -1;
+    }
+    for (int i = length_ - 1; i >= 0; --i) {
+        if (data_[i] == value)
+            return i;
     }
     return -1;
 }
@@ -227,7 +266,7 @@ void ZXArray<T>::setAll(const T& value) {
 
 template <class T>
 void ZXArray<T>::reset() {
-    delete[] data_;
+    zarnex::detail::release(data_);
     data_ = nullptr;
     allocLength_ = 0;
     length_ = 0;
@@ -239,7 +278,7 @@ void ZXArray<T>::compact() {
 }
 
 template <class T>
-void ZXArray<T>::setSize(int n) {
+ZARNEX_TEMPLATE_INLINE void ZXArray<T>::setSize(int n) {
     n = (std::max)(n, 0);
     if (n < length_)
         std::fill(data_ + n, data_ + length_, empty_);
@@ -315,7 +354,7 @@ ZARNEX_TEMPLATE_INLINE int ZXArray<T>::getStep() const {
 }
 
 template <class T>
-int ZXArray<T>::setStep(int step) {
+ZARNEX_TEMPLATE_INLINE int ZXArray<T>::setStep(int step) {
     return step_ = step;
 }
 
@@ -331,12 +370,15 @@ void ZXArray<T>::swap(ZXArray& other) noexcept {
 }
 
 template <class T>
-int ZXArray<T>::getGrowSize(int n) {
+ZARNEX_TEMPLATE_INLINE int ZXArray<T>::getGrowSize(int n) {
     if (n < 1)
         return 0;
     long long count;
     if (step_ >= 1) {
-        count = (static_cast<long long>(n) + step_ - 1) / step_ * step_;
+        // Most steps are powers of two: a division would take as long as all the rest.
+        const long long step = step_;
+        const long long last = n + step - 1;
+        count = (step & (step - 1)) == 0 ? last & -step : last / step * step;
     } else if (n >= allocLength_) {
         for (count = allocLength_ <= 0 ? 32 : allocLength_; count < n;)
             count *= 2;
@@ -351,17 +393,15 @@ template <class T>
 void ZXArray<T>::growArray(int n, int useRule) {
     const int count = useRule != 0 ? getGrowSize(n) : n;
     if (count <= 0) {
-        delete[] data_;
+        zarnex::detail::release(data_);
         data_ = nullptr;
         allocLength_ = 0;
     } else if (count != allocLength_) {
-        T* const storage = new (std::nothrow) T[static_cast<std::size_t>(count)];
+        T* const storage = zarnex::detail::resized(data_, allocLength_, count);
         if (storage == nullptr)
             return;
-        T* const end = std::move(data_, data_ + (std::min)(count, allocLength_), storage);
-        if (emptySet_ != 0)
-            std::fill(end, storage + count, empty_);
-        delete[] data_;
+        if (emptySet_ != 0 && count > allocLength_)
+            std::fill(storage + allocLength_, storage + count, empty_);
         data_ = storage;
         allocLength_ = count;
     }
@@ -375,7 +415,16 @@ ZARNEX_TEMPLATE_INLINE T& ZXArray<T>::store(T& slot, const T& value) {
     return slot;
 }
 
-// The slow half of get(): makes slot `i`, at or past the length, the last one.
+// The slow half of get(): for negative indices, and for those at or past the length.
+template <class T>
+T& ZXArray<T>::reach(int i) {
+    i = (std::max)(i, 0);
+    if (i >= length_)
+        extendTo(i);
+    return data_[i];
+}
+
+// Makes slot `i`, at or past the length, the last one.
 template <class T>
 void ZXArray<T>::extendTo(int i) {
     reserve(i + 1LL);

@@ -27,6 +27,22 @@ bool anyTwoCoincide(const DPoint& p1, const DPoint& p2, const DPoint& p3, double
     return isEqual(p3, p2, within) || isEqual(p2, p1, within) || isEqual(p3, p1, within);
 }
 
+// Whether the sine between the steps, each after DVector::normalize(), is below the bound.
+//
+// For all but nearly straight steps the squares tell, 5 % from the bound, where the rounding
+// on either way does not reach. Whatever is short, overflows or is a NaN fails that test.
+bool isStraight(const DVector& u, const DVector& v) {
+    constexpr double straightBelow = 0.01;
+    constexpr double bentAbove = 1.1e-4; // its square and some more
+    const double uu = u.squaredLength();
+    const double vv = v.squaredLength();
+    const double k = u.cross(v);
+    if (uu > zarnex::detail::shortSquaredLength && vv > zarnex::detail::shortSquaredLength &&
+        k * k > bentAbove * (uu * vv))
+        return false;
+    return std::fabs(u.normalize().cross(v.normalize())) < straightBelow;
+}
+
 int found(DPoint* centre, double x, double y) {
     if (centre != nullptr)
         *centre = DPoint(x, y);
@@ -39,10 +55,9 @@ constexpr int noCentre = -1;
 
 int computeCentre(DPoint* centre, const DPoint& p1, const DPoint& p2, const DPoint& p3) {
     constexpr double coincidentWithin = 1e-7;
-    constexpr double straightBelow = 0.01; // of the sine at p1
     if (anyTwoCoincide(p1, p2, p3, coincidentWithin))
         return noCentre;
-    if (std::fabs((p2 - p1).normalize().cross((p3 - p1).normalize())) < straightBelow)
+    if (isStraight(p2 - p1, p3 - p1))
         return noCentre;
 
     const Bisector a = bisector(p1, p2);

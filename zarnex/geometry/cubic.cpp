@@ -3,7 +3,6 @@
 #include <zarnex/geometry/quadratic.h>
 #include <zarnex/geometry/tolerance.h>
 
-#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -74,9 +73,6 @@ int rootsOf(double a, double b, double c, double d, double* roots) {
 } // namespace
 
 int cubicRoots(double a, double b, double c, double d, double* roots) {
-    double found[3];
-    const int count = rootsOf(a, b, c, d, found);
-    if (roots != nullptr)
-        std::copy_n(found, count, roots);
-    return count;
+    double unwanted[3];
+    return rootsOf(a, b, c, d, roots != nullptr ? roots : unwanted);
 }

@@ -8,6 +8,8 @@
 
 #include <zarnex/config.h>
 
+#include <cmath>
+
 /// The real roots of a * x^2 + b * x + c = 0. Returns how many were written: 0, 1 (to r1;
 /// a double root counts once) or 2.
 ///
@@ -44,3 +46,52 @@ public:
     static void quadraticSolve(int* count, double* r1, double* r2, double a, double b, double c,
                                double zeroTol, double discTol);
 };
+
+namespace zarnex::detail {
+
+/// Each writes the roots, as far as they have a place, and returns their number.
+inline int oneRoot(double* r1, double root) {
+    if (r1 != nullptr)
+        *r1 = root;
+    return 1;
+}
+
+inline int twoRoots(double* r1, double* r2, double first, double second) {
+    if (r1 != nullptr)
+        *r1 = first;
+    if (r2 != nullptr)
+        *r2 = second;
+    return 2;
+}
+
+/// Whether quadraticSolve() takes a coefficient as zero.
+inline bool isNoCoefficient(double coefficient) {
+    return std::fabs(coefficient) < 1e-10;
+}
+
+/// The size of the discriminant below which quadraticSolve() finds a double root.
+inline constexpr double doubleRootBelow = 1e-5;
+
+} // namespace zarnex::detail
+
+ZARNEX_INLINE int quadraticSolve(double* r1, double* r2, double a, double b, double c) {
+    namespace detail = zarnex::detail;
+    const bool noLinear = detail::isNoCoefficient(b);
+    if (detail::isNoCoefficient(a))
+        return noLinear ? 0 : detail::oneRoot(r1, -c / b);
+    if (detail::isNoCoefficient(c))
+        return noLinear ? detail::oneRoot(r1, 0.0) : detail::twoRoots(r1, r2, 0.0, -b / a);
+    if (noLinear) {
+        if (a * c > 0.0)
+            return 0;
+        const double root = std::sqrt(-c / a);
+        return detail::twoRoots(r1, r2, root, -root);
+    }
+    const double disc = b * b - 4.0 * a * c;
+    if (disc <= -detail::doubleRootBelow)
+        return 0;
+    if (std::fabs(disc) < detail::doubleRootBelow)
+        return detail::oneRoot(r1, -0.5 * b / a);
+    const double d = std::sqrt(disc);
+    return detail::twoRoots(r1, r2, 2.0 * c / (-b + d), 2.0 * c / (-b - d));
+}

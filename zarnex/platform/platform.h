@@ -7,6 +7,8 @@
 
 #include <zarnex/platform/records.h>
 
+#include <cstddef>
+
 namespace zarnex::platform {
 
 /// Makes, destroys, takes and releases the recursive lock in `lock`.
@@ -27,6 +29,10 @@ inline constexpr unsigned int utf8CodePage = 65001;
 /// page, a count of 0, null. Ill-formed UTF-8 becomes U+FFFD, by one rule on both
 /// platforms; other code pages have replacements of their own.
 int bytesToWide(unsigned int codePage, const char* text, int count, wchar_t* out, int room);
+
+/// How many wide units `count` bytes hardly ever exceed: what to make room for before
+/// bytesToWide() is tried.
+std::size_t likelyWideUnits(unsigned int codePage, const char* text, std::size_t count);
 
 /// The mirror image of bytesToWide. A unit that the code page cannot hold
 /// becomes the code page's replacement, mostly '?', in UTF-8 U+FFFD.

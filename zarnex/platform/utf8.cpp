@@ -1,5 +1,8 @@
 #include <zarnex/platform/utf8.h>
 
+#include <zarnex/platform/asciiBlock.h>
+
+#include <algorithm>
 #include <climits>
 #include <cstddef>
 #include <cstdint>
@@ -16,47 +19,19 @@ using Unit = std::make_unsigned_t<std::conditional_t<sizeof(wchar_t) == 2, short
 
 constexpr char32_t replacement = 0xFFFD;
 
-// Text is taken in blocks: one without any character from U+0080 on is copied at once,
-// by loops of a fixed length over a block of its own, which compilers turn into vectors.
-constexpr std::ptrdiff_t blockSize = 16;
-
-bool widenAsciiBlock(const Byte* text, wchar_t* out) {
-    std::uint64_t halves[2];
-    std::memcpy(halves, text, blockSize);
-    if (((halves[0] | halves[1]) & 0x8080808080808080u) != 0)
-        return false;
-    if (out != nullptr) {
-        Byte bytes[blockSize];
-        wchar_t units[blockSize];
-        std::memcpy(bytes, text, blockSize);
-        for (int i = 0; i < blockSize; ++i)
-            units[i] = static_cast<wchar_t>(bytes[i]);
-        std::memcpy(out, units, sizeof units);
-    }
-    return true;
+bool isAscii(Byte byte) {
+    return byte < 0x80;
 }
 
-bool narrowAsciiBlock(const wchar_t* text, char* out) {
-    Unit units[blockSize];
-    std::memcpy(units, text, sizeof units);
-    Unit all = 0;
-    for (int i = 0; i < blockSize; ++i)
-        all = static_cast<Unit>(all | units[i]);
-    if (all >= 0x80)
-        return false;
-    if (out != nullptr) {
-        char bytes[blockSize];
-        for (int i = 0; i < blockSize; ++i)
-            bytes[i] = static_cast<char>(units[i]);
-        std::memcpy(out, bytes, sizeof bytes);
-    }
-    return true;
+bool isAscii(wchar_t unit) {
+    return static_cast<Unit>(unit) < 0x80;
 }
 
 // ---- One character
 
-// Decodes the sequence at `text`, before `end`, and moves `text` past it.
-inline char32_t decode(const Byte*& text, const Byte* end) {
+// Decodes the sequence at `text`, before `end`, and moves `text` past it. Looks at a
+// further byte only where the sequence asks for one.
+char32_t decodeAny(const Byte*& text, const Byte* end) {
     const unsigned lead = *text++;
     if (lead < 0x80)
         return lead;
@@ -95,6 +70,26 @@ inline char32_t decode(const Byte*& text, const Byte* end) {
         high = 0xBF;
     }
     return value;
+}
+
+// The same, quick for well-formed sequences of two and three bytes.
+inline char32_t decode(const Byte*& text, const Byte* end) {
+    const unsigned lead = *text;
+    if (end - text >= 3) {
+        const unsigned second = text[1] ^ 0x80u; // below 40 for what continues a sequence
+        const unsigned third = text[2] ^ 0x80u;
+        if (lead - 0xC2 < 0x1E && second < 0x40) {
+            text += 2;
+            return (lead & 0x1F) << 6 | second;
+        }
+        const unsigned value = (lead & 0x0F) << 12 | second << 6 | third;
+        if ((lead & 0xF0) == 0xE0 && (second | third) < 0x40 && value >= 0x800 &&
+            value - 0xD800 >= 0x800) {
+            text += 3;
+            return value;
+        }
+    }
+    return decodeAny(text, end);
 }
 
 // The same for wide text: a pair of surrogates is one character.
@@ -150,46 +145,98 @@ inline void encode(char32_t character, char* out) {
 
 // ---- Texts
 
-inline bool copyAsciiBlock(const Byte* text, wchar_t* out) {
-    return widenAsciiBlock(text, out);
+// Each character takes at most so many units of In for one of Out.
+constexpr std::ptrdiff_t mostUnits(const Byte*) {
+    return 4;
+}
+constexpr std::ptrdiff_t mostUnits(const wchar_t*) {
+    return 1;
 }
 
-inline bool copyAsciiBlock(const wchar_t* text, char* out) {
-    return narrowAsciiBlock(text, out);
-}
-
-// Writes to `out`, or counts alone when that is null. 0 if `room` does not do.
-template <bool writes, class In, class Out>
-int convert(const In* text, const In* end, Out* out, int room) {
-    std::ptrdiff_t written = 0;
-    const auto place = [&] { return writes ? out + written : nullptr; };
+// 0 if `room` does not do.
+template <class In, class Out>
+int convert(const In* text, const In* const end, Out* const out, int room) {
+    Out* next = out;
+    Out* const stop = out + room;
     while (text != end) {
-        const In* scalarEnd = end;
-        if (end - text >= blockSize) {
-            if (room - written >= blockSize && copyAsciiBlock(text, place())) {
-                text += blockSize;
-                written += blockSize;
+        if (end - text >= blockSize && stop - next >= blockSize) {
+            // Further text certain to fill the block may be written over in advance.
+            const bool mayFill = end - text >= (1 + mostUnits(text)) * blockSize;
+            const std::ptrdiff_t count = copyAscii(text, next, mayFill);
+            text += count;
+            next += count;
+            if (count == blockSize)
                 continue;
-            }
-            scalarEnd = text + blockSize;
         }
-        while (text < scalarEnd) {
+        do {
             const char32_t character = decode(text, end);
             const std::ptrdiff_t size = sizeOf(character, out);
-            if (room - written < size)
+            if (stop - next < size) {
+                std::fill(next, stop, Out{}); // whole characters and nothing else
                 return 0;
-            if constexpr (writes)
-                encode(character, out + written);
-            written += size;
-        }
+            }
+            encode(character, next);
+            next += size;
+        } while (text != end && !isAscii(*text));
     }
-    return static_cast<int>(written);
+    return static_cast<int>(next - out);
+}
+
+// ---- Sizes
+
+std::size_t sizeOf(const Byte* text, const Byte* end) {
+    std::size_t size = 0;
+    wchar_t ascii[blockSize];
+    while (text != end) {
+        if (end - text >= blockSize) {
+            const std::ptrdiff_t count = copyAscii(text, ascii, true);
+            text += count;
+            size += static_cast<std::size_t>(count);
+            if (count == blockSize)
+                continue;
+        }
+        do {
+            size += static_cast<std::size_t>(sizeOf(decode(text, end), ascii));
+        } while (text != end && !isAscii(*text));
+    }
+    return size;
+}
+
+// The bytes that `unit` takes, two for each half of a pair of surrogates: where `next`
+// completes one, two are taken off.
+inline Unit bytesOf(wchar_t at, wchar_t next) {
+    const auto unit = static_cast<Unit>(at);
+    const int size = 1 + (unit >= 0x80) + (unit >= 0x800);
+    if constexpr (sizeof(wchar_t) == 2) {
+        const bool isPair = (unit & 0xFC00) == 0xD800 && (next & 0xFC00) == 0xDC00;
+        return static_cast<Unit>(size - 2 * isPair);
+    } else {
+        const char32_t character = unit;
+        return static_cast<Unit>(size + (character >= 0x10000) - (character > 0x10FFFF));
+    }
+}
+
+std::size_t sizeOf(const wchar_t* text, const wchar_t* end) {
+    std::size_t size = 0;
+    for (; end - text > blockSize; text += blockSize) {
+        Unit sum = 0;
+        for (int i = 0; i < blockSize; ++i)
+            sum = static_cast<Unit>(sum + bytesOf(text[i], text[i + 1]));
+        size += sum;
+    }
+    while (text != end) {
+        const char32_t character = decode(text, end);
+        size += static_cast<std::size_t>(sizeOf(character, static_cast<char*>(nullptr)));
+    }
+    return size;
 }
 
 template <class In, class Out>
-int convert(const In* text, std::size_t count, Out* out, int room) {
-    return room == 0 ? convert<false>(text, text + count, out, INT_MAX)
-                     : convert<true>(text, text + count, out, room);
+int convertOrMeasure(const In* text, std::size_t count, Out* out, int room) {
+    if (room != 0)
+        return convert(text, text + count, out, room);
+    const std::size_t size = sizeOf(text, text + count);
+    return size <= INT_MAX ? static_cast<int>(size) : 0;
 }
 
 bool isCall(const void* text, int count, const void* out, int room) {
@@ -202,21 +249,40 @@ int utf8ToWide(const char* text, int count, wchar_t* out, int room) {
     if (!isCall(text, count, out, room))
         return 0;
     const std::size_t length = count < 0 ? std::strlen(text) + 1 : static_cast<std::size_t>(count);
-    return convert(reinterpret_cast<const Byte*>(text), length, out, room);
+    return convertOrMeasure(reinterpret_cast<const Byte*>(text), length, out, room);
 }
 
 int wideToUtf8(const wchar_t* text, int count, char* out, int room) {
     if (!isCall(text, count, out, room))
         return 0;
     const std::size_t length = count < 0 ? std::wcslen(text) + 1 : static_cast<std::size_t>(count);
-    return convert(text, length, out, room);
+    return convertOrMeasure(text, length, out, room);
+}
+
+std::size_t utf8WideUnits(const char* text, std::size_t count) {
+    const auto unitsOf = [](char byte) {
+        const bool isFirst = static_cast<signed char>(byte) >= static_cast<signed char>(0xC0);
+        const bool isPair = sizeof(wchar_t) == 2 && static_cast<Byte>(byte) >= 0xF0;
+        return static_cast<Byte>(isFirst + isPair);
+    };
+    constexpr std::size_t block = 64; // whose sum is a byte
+    std::size_t units = 0;
+    std::size_t i = 0;
+    for (; count - i >= block; i += block) {
+        Byte sum = 0;
+        for (std::size_t j = 0; j < block; ++j)
+            sum = static_cast<Byte>(sum + unitsOf(text[i + j]));
+        units += sum;
+    }
+    for (; i < count; ++i)
+        units += unitsOf(text[i]);
+    return units;
 }
 
 int utf8CharacterBytes(const char* text) {
-    // The decoder looks at a further byte only where the sequence asks for one, and
-    // a terminator ends every sequence: no end is needed.
+    // A terminator ends every sequence: no end is needed.
     const auto* next = reinterpret_cast<const Byte*>(text);
-    decode(next, next + 4);
+    decodeAny(next, next + 4);
     return static_cast<int>(next - reinterpret_cast<const Byte*>(text));
 }
 

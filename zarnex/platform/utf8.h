@@ -10,12 +10,17 @@
 /// Source: The Unicode Standard, chapter 3.9, table 3-7 and "U+FFFD Substitution of
 /// Maximal Subparts".
 
+#include <cstddef>
+
 namespace zarnex::platform {
 
 /// bytesToWide() and wideToBytes() for UTF-8. On failure as many whole characters as
 /// fit stand in `out`.
 int utf8ToWide(const char* text, int count, wchar_t* out, int room);
 int wideToUtf8(const wchar_t* text, int count, char* out, int room);
+
+/// likelyWideUnits() for UTF-8: of well-formed text exact, of any other too few at most.
+std::size_t utf8WideUnits(const char* text, std::size_t count);
 
 /// characterBytes() for UTF-8.
 int utf8CharacterBytes(const char* text);

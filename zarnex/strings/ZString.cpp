@@ -22,10 +22,6 @@ int toInt(std::size_t size) {
 
 // ---- The buffer
 
-const wchar_t* ZString::text() const {
-    return textOf(array_);
-}
-
 std::size_t ZString::measure() const {
     return textLength(text());
 }
@@ -102,13 +98,7 @@ ZString& ZString::operator=(ZGenericString& text) {
     return *this = static_cast<const wchar_t*>(text);
 }
 
-ZString::~ZString() = default;
-
 // ---- Raw access
-
-ZString::operator const wchar_t*() const {
-    return text();
-}
 
 ZString::operator wchar_t*() {
     constexpr int rawRoom = 512;
@@ -123,11 +113,15 @@ ZString::operator wchar_t*() {
 }
 
 wchar_t& ZString::operator[](int i) {
-    return elementOf(array_, wrappedIndex(i, i < 0 ? length() : 0));
+    return elementOf(array_, i < 0 ? fromEnd(i) : i);
 }
 
 const wchar_t& ZString::operator[](int i) const {
-    return array_.get(wrappedIndex(i, i < 0 ? length() : 0));
+    return array_.get(i < 0 ? fromEnd(i) : i);
+}
+
+int ZString::fromEnd(int i) const {
+    return wrappedIndex(i, length());
 }
 
 // ---- Sizes
@@ -150,14 +144,6 @@ int ZString::unicodeSize() const {
 
 int ZString::multiByteSize() const {
     return toInt(StringUtils::multiByteSize(text()));
-}
-
-int ZString::allocLength() const {
-    return array_.length();
-}
-
-int ZString::isEmpty() const {
-    return *text() == L'\0';
 }
 
 // ---- Concatenation

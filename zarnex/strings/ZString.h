@@ -319,11 +319,31 @@ private:
 
     const wchar_t* text() const;
     std::size_t measure() const;
+    int fromEnd(int i) const;
     ZString& appendNumber(long long number);
     ZString& appendNumber(unsigned long long number);
 
     ZXArray<wchar_t> array_;
 };
+
+ZARNEX_INLINE ZString::~ZString() = default;
+
+ZARNEX_INLINE const wchar_t* ZString::text() const {
+    const wchar_t* const text = array_;
+    return text == nullptr ? L"" : text; // without storage after a move
+}
+
+ZARNEX_INLINE ZString::operator const wchar_t*() const {
+    return text();
+}
+
+ZARNEX_INLINE int ZString::allocLength() const {
+    return array_.length();
+}
+
+ZARNEX_INLINE int ZString::isEmpty() const {
+    return *text() == L'\0';
+}
 
 namespace zarnex::detail {
 

@@ -1,8 +1,7 @@
 #include <zarnex/strings/ZString.h>
 
+#include <zarnex/strings/internal/search.h>
 #include <zarnex/strings/internal/textArray.h>
-
-#include <cwctype>
 
 using namespace zarnex::detail;
 
@@ -19,19 +18,35 @@ void ZString::findAndReplace(const wchar_t* find, const wchar_t* replace) {
     replace = textOrEmpty(replace);
     const std::size_t skipped = textLength(find);
     const std::size_t added = textLength(replace);
-    const wchar_t* done = text();
-    const wchar_t* const end = done + measure();
-    const wchar_t* found = skipped == 0 ? nullptr : findUnits(done, end, find, skipped);
-    if (found == nullptr)
+    const wchar_t* const begin = text();
+    const wchar_t* const end = begin + measure();
+    if (skipped == 0)
         return;
-    TextBuffer<wchar_t> result;
-    for (; found != nullptr; found = findUnits(done, end, find, skipped)) {
-        result.append(done, found);
-        result.append(replace, replace + added);
+
+    // Found first: the result gets its storage at once, beside the texts that it is made of.
+    TextBuffer<const wchar_t*> places;
+    for (const wchar_t* next = begin; (next = findUnits(next, end, find, skipped)) != nullptr;) {
+        places.append(next);
+        next += skipped;
+    }
+    const std::size_t count = places.length();
+    if (count == 0)
+        return;
+    const std::size_t length =
+        static_cast<std::size_t>(end - begin) - count * skipped + count * added;
+    ZXArray<wchar_t> result = newLike(array_, length + 1);
+    wchar_t* out = result;
+    const wchar_t* done = begin;
+    for (std::size_t i = 0; i < count; ++i) {
+        const wchar_t* const found = places.data()[i];
+        out = std::copy(replace, replace + added, std::copy(done, found, out));
         done = found + skipped;
     }
-    result.append(done, end);
-    assignText(array_, result.data(), result.length());
+    *std::copy(done, end, out) = L'\0';
+    const int slots = static_cast<int>(length + 1);
+    result.setSize((std::max)(slots, array_.length()));
+    result.setSize(slots); // clears those that are given up
+    array_.swap(result);
 }
 
 ZString ZString::subString(int start, int count) {
@@ -79,14 +94,16 @@ void ZString::trimRight() {
 
 void ZString::toLower() {
     wchar_t* const buffer = array_;
-    for (int i = 0; i < array_.length() && buffer[i] != L'\0'; ++i)
-        buffer[i] = static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(buffer[i])));
+    const int slots = array_.length();
+    for (int i = 0; i < slots && buffer[i] != L'\0'; ++i)
+        buffer[i] = lowerCase(buffer[i]);
 }
 
 void ZString::toUpper() {
     wchar_t* const buffer = array_;
-    for (int i = 0; i < array_.length() && buffer[i] != L'\0'; ++i)
-        buffer[i] = static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(buffer[i])));
+    const int slots = array_.length();
+    for (int i = 0; i < slots && buffer[i] != L'\0'; ++i)
+        buffer[i] = upperCase(buffer[i]);
 }
 
 void ZString::set(const wchar_t* format, ...) {

@@ -1,22 +1,9 @@
 #include <zarnex/strings/ZString.h>
 
-#include <zarnex/strings/internal/caseless.h>
+#include <zarnex/strings/internal/search.h>
 #include <zarnex/strings/internal/textArray.h>
 
 using namespace zarnex::detail;
-
-namespace {
-
-const wchar_t* searchCaseless(const wchar_t* text, const wchar_t* end, const wchar_t* wanted,
-                              std::size_t count) {
-    for (; static_cast<std::size_t>(end - text) >= count; ++text) {
-        if (caselessOrder(text, wanted, count) == 0)
-            return text;
-    }
-    return nullptr;
-}
-
-} // namespace
 
 int ZString::find(const wchar_t& unit, int fromEnd) const {
     return array_.find(unit, fromEnd);
@@ -33,7 +20,7 @@ int ZString::findString(const wchar_t* wanted, int start, int ignoreCase) const 
     if (start > size)
         return -1;
     const wchar_t* const begin = text();
-    const auto searchAs = ignoreCase != 0 ? searchCaseless : findUnits;
+    const auto searchAs = ignoreCase != 0 ? findCaseless : findUnits;
     const wchar_t* const found = searchAs(begin + start, begin + size, wanted, count);
     return found == nullptr ? -1 : static_cast<int>(found - begin);
 }

@@ -80,14 +80,6 @@ ZCentimeter& ZCentimeter::operator=(const ZSpi& density) {
     return *this;
 }
 
-ZCentimeter::operator double() const {
-    return value_;
-}
-
-int ZCentimeter::isValid() const {
-    return valid_;
-}
-
 int ZCentimeter::getUnitId() const {
     return unitId_;
 }

@@ -107,3 +107,11 @@ private:
     int unitId_;
     ZString label_;
 };
+
+ZARNEX_INLINE ZCentimeter::operator double() const {
+    return value_;
+}
+
+ZARNEX_INLINE int ZCentimeter::isValid() const {
+    return valid_;
+}

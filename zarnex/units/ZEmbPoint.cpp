@@ -85,14 +85,6 @@ ZEmbPoint& ZEmbPoint::operator=(const ZSpi& density) {
     return *this;
 }
 
-ZEmbPoint::operator double() const {
-    return value_;
-}
-
-int ZEmbPoint::isValid() const {
-    return valid_;
-}
-
 int ZEmbPoint::getUnitId() const {
     return unitEmbPoint;
 }

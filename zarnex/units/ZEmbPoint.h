@@ -90,3 +90,11 @@ private:
     double value_;
     int valid_;
 };
+
+ZARNEX_INLINE ZEmbPoint::operator double() const {
+    return value_;
+}
+
+ZARNEX_INLINE int ZEmbPoint::isValid() const {
+    return valid_;
+}

@@ -72,14 +72,6 @@ ZInch& ZInch::operator=(const ZSpi& density) {
     return *this;
 }
 
-ZInch::operator double() const {
-    return value_;
-}
-
-int ZInch::isValid() const {
-    return valid_;
-}
-
 int ZInch::getUnitId() const {
     return unitInch;
 }

@@ -88,3 +88,11 @@ private:
     double value_;
     int valid_;
 };
+
+ZARNEX_INLINE ZInch::operator double() const {
+    return value_;
+}
+
+ZARNEX_INLINE int ZInch::isValid() const {
+    return valid_;
+}

@@ -74,14 +74,6 @@ ZMillimeter& ZMillimeter::operator=(const ZSpi& density) {
     return *this;
 }
 
-ZMillimeter::operator double() const {
-    return value_;
-}
-
-int ZMillimeter::isValid() const {
-    return valid_;
-}
-
 int ZMillimeter::getUnitId() const {
     return unitMillimeter;
 }

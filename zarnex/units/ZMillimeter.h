@@ -110,3 +110,11 @@ private:
     double value_;
     int valid_;
 };
+
+ZARNEX_INLINE ZMillimeter::operator double() const {
+    return value_;
+}
+
+ZARNEX_INLINE int ZMillimeter::isValid() const {
+    return valid_;
+}

@@ -72,14 +72,6 @@ ZMillimeterPerSec& ZMillimeterPerSec::operator=(const ZSpi& density) {
     return *this;
 }
 
-ZMillimeterPerSec::operator double() const {
-    return value_;
-}
-
-int ZMillimeterPerSec::isValid() const {
-    return valid_;
-}
-
 int ZMillimeterPerSec::getUnitId() const {
     return unitMillimeterPerSec;
 }

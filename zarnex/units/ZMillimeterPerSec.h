@@ -91,3 +91,11 @@ private:
     double value_;
     int valid_;
 };
+
+ZARNEX_INLINE ZMillimeterPerSec::operator double() const {
+    return value_;
+}
+
+ZARNEX_INLINE int ZMillimeterPerSec::isValid() const {
+    return valid_;
+}

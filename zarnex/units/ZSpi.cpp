@@ -82,14 +82,6 @@ ZSpi& ZSpi::operator=(const ZEmbPoint& length) {
     return *this;
 }
 
-ZSpi::operator double() const {
-    return value_;
-}
-
-int ZSpi::isValid() const {
-    return valid_;
-}
-
 int ZSpi::getUnitId() const {
     return unitSpi;
 }

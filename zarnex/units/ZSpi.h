@@ -89,3 +89,11 @@ private:
     double value_;
     int valid_;
 };
+
+ZARNEX_INLINE ZSpi::operator double() const {
+    return value_;
+}
+
+ZARNEX_INLINE int ZSpi::isValid() const {
+    return valid_;
+}

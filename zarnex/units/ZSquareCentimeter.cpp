@@ -16,14 +16,6 @@ ZSquareCentimeter::ZSquareCentimeter(const ZString& text) : value_(0.0), valid_(
 
 ZSquareCentimeter::~ZSquareCentimeter() = default;
 
-ZSquareCentimeter::operator double() const {
-    return value_;
-}
-
-int ZSquareCentimeter::isValid() const {
-    return valid_;
-}
-
 int ZSquareCentimeter::getUnitId() const {
     return unitSquareCentimeter;
 }

@@ -56,3 +56,11 @@ private:
     double value_;
     unsigned char valid_;
 };
+
+ZARNEX_INLINE ZSquareCentimeter::operator double() const {
+    return value_;
+}
+
+ZARNEX_INLINE int ZSquareCentimeter::isValid() const {
+    return valid_;
+}

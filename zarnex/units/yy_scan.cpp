@@ -1,58 +1,15 @@
 #include <zarnex/units/yy_scan.h>
 
 #include <zarnex/runtime/exiting.h>
-#include <zarnex/units/internal/automaton.h>
+#include <zarnex/units/internal/tokens.h>
 
 #include <algorithm>
-#include <charconv>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
-#include <limits>
 #include <new>
 
-namespace {
-
-using zarnex::detail::Automaton;
-using zarnex::detail::tokenRules;
-
-constexpr Automaton automaton = zarnex::detail::buildAutomaton(tokenRules);
-
-static_assert(automaton.rule[Automaton::start] == Automaton::noRule &&
-                  !automaton.last[Automaton::start],
-              "every round of the matching loop consumes a character");
-static_assert(automaton.rule[Automaton::dead] == Automaton::noRule &&
-                  automaton.last[Automaton::dead],
-              "the matching loop ends in the dead state");
-static_assert(automaton.classOf[0] == 0 && automaton.classOf['A'] == 0,
-              "no token holds a zero byte or a capital");
-
-/// The number that yy_scan::yynumber() tells; ZUnitScanner's lock guards it.
-constinit double scannedNumber = 0.0;
-
-/// What a number beyond the range of double becomes. `text` is digits with an
-/// optional ".": too large if a digit before the point counts, else too small.
-double limitOf(const char* text, const char* end) {
-    const char* point = std::find(text, end, '.');
-    const bool large = std::any_of(text, point, [](char c) { return c != '0'; });
-    return large ? std::numeric_limits<double>::infinity() : 0.0;
-}
-
-/// Sets scannedNumber from the text of a number token.
-void readNumber(const char* text, const char* end) {
-    const bool negative = *text == '-';
-    if (negative || *text == '+')
-        ++text;
-    double number = 0.0;
-    const auto [stop, error] = std::from_chars(text, end, number, std::chars_format::fixed);
-    if (error == std::errc::invalid_argument)
-        return; // a lone sign
-    if (error == std::errc::result_out_of_range)
-        number = limitOf(text, end);
-    scannedNumber = negative ? -number : number;
-}
-
-} // namespace
+using namespace zarnex::detail;
 
 yy_scan::yy_scan(int size) : yystates(nullptr), yysize(size), yyowned(1), yytext(nullptr) {
     if (size >= 0) {
@@ -119,7 +76,7 @@ int yy_scan::yylex() {
 }
 
 int yy_scan::yystep() {
-    static_assert(yySkipped == zarnex::detail::skippedToken);
+    static_assert(yySkipped == skippedToken);
 
     // The token before makes room, and what was read ahead begins the next one.
     char* const text = yytext;
@@ -135,27 +92,24 @@ int yy_scan::yystep() {
 
     std::uint8_t state = Automaton::start; // for every start condition, at a line's start or not
     int length = 0;
-    while (!automaton.last[state]) {
+    while (!tokenAutomaton.last[state]) {
         if (length == yysize) {
             yyerror("Token buffer overflow");
             break;
         }
-        unsigned char byte;
-        if (length < yyheld) {
-            byte = static_cast<unsigned char>(text[length]);
-        } else {
+        if (length == yyheld) {
             const int c = yygetc();
             if (c == -1)
                 break;
-            byte = static_cast<unsigned char>(c & 0xFF);
-            text[yyheld++] = static_cast<char>(byte);
+            text[yyheld++] = static_cast<char>(c & 0xFF);
         }
-        state = automaton.next[state][automaton.classOf[byte]];
+        const auto byte = static_cast<unsigned char>(text[length]);
+        state = tokenAutomaton.next[state][tokenAutomaton.classOf[byte]];
         states[++length] = state;
     }
 
     const bool atEnd = length == 0;
-    while (length > 0 && automaton.rule[states[length]] == Automaton::noRule)
+    while (length > 0 && tokenAutomaton.rule[states[length]] == Automaton::noRule)
         --length;
     const bool accepted = length > 0;
     yyleng = accepted ? length : (atEnd ? 0 : 1);
@@ -163,7 +117,7 @@ int yy_scan::yystep() {
     text[yyleng] = '\0';
 
     if (accepted) {
-        const int token = tokenRules[automaton.rule[states[length]]].token;
+        const int token = tokenRules[tokenAutomaton.rule[states[length]]].token;
         if (token == zarnex::unitNumber)
             readNumber(text, text + yyleng);
         return token;

@@ -1,6 +1,7 @@
 #include <zarnex/bigint/internal/Montgomery.h>
 
 #include <zarnex/bigint/internal/division.h>
+#include <zarnex/bigint/internal/kernels.h>
 #include <zarnex/bigint/internal/limbs.h>
 #include <zarnex/bigint/internal/multiplication.h>
 
@@ -46,26 +47,11 @@ void Montgomery::square(Limb* out, const Limb* a) {
     reduce(out);
 }
 
-// out = product_ / 2^(64 n): adds the multiple of the modulus that makes the lower n limbs
-// zero, and takes the upper ones. The limbs of its factor replace those that they clear.
+// out = product_ / 2^(64 n).
 void Montgomery::reduce(Limb* out) {
-    Limb* const t = product_;
-    const Size n = count_;
-    Accumulator sum;
-    for (Size k = 0; k < n; ++k) {
-        addColumn(sum, t, modulus_ + k, k);
-        sum.add(t[k]);
-        t[k] = sum.limb() * inverse_;
-        sum.addProduct(t[k], modulus_[0]);
-        sum.next();
-    }
-    for (Size k = n; k < 2 * n; ++k) {
-        addColumn(sum, t + (k - n + 1), modulus_ + (n - 1), 2 * n - 1 - k);
-        sum.add(t[k]);
-        out[k - n] = sum.next();
-    }
-    if (sum.limb() != 0 || compare(out, modulus_, n) >= 0)
-        subtract(out, out, modulus_, n);
+    const unsigned char carry = kernels().reduce(out, product_, modulus_, count_, inverse_);
+    if (carry != 0 || compare(out, modulus_, count_) >= 0)
+        subtract(out, out, modulus_, count_);
 }
 
 } // namespace zarnex::detail

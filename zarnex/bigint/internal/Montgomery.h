@@ -7,8 +7,8 @@ namespace zarnex::detail {
 /// Arithmetic modulo an odd number m > 1 of n limbs, on numbers in Montgomery's form:
 /// x * 2^(64 n) mod m stands for x.
 ///
-/// Products are summed column by column and reduced in a second pass, so that squares can
-/// have a routine of their own.
+/// Products are made whole and then reduced, so that squares can have a routine of their own
+/// and long ones the method for long numbers.
 ///
 /// Source: Montgomery, "Modular multiplication without trial division", Mathematics of
 /// Computation 44 (1985); the orders of the work: Koc, Acar and Kaliski, "Analyzing and

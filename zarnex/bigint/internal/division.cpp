@@ -1,6 +1,7 @@
 #include <zarnex/bigint/internal/division.h>
 
 #include <zarnex/bigint/internal/Scratch.h>
+#include <zarnex/bigint/internal/kernels.h>
 #include <zarnex/bigint/internal/limbs.h>
 
 #include <algorithm>
@@ -9,25 +10,11 @@ namespace zarnex::detail {
 
 namespace {
 
-// a -= b * factor, all of `count` limbs. Returns what is still to be taken from the limb
-// above. Four limbs a step.
-Limb subtractMultiple(Limb* a, const Limb* b, Size count, Limb factor) {
-    Limb borrow = 0;
-    const auto step = [&borrow, factor](Limb& limb, Limb by) {
-        const Limb taken = multiplyAdd(by, factor, 0, borrow);
-        const Limb before = limb;
-        limb = before - taken;
-        borrow += before < taken ? 1 : 0;
-    };
-    for (; count >= 4; count -= 4, a += 4, b += 4) {
-        step(a[0], b[0]);
-        step(a[1], b[1]);
-        step(a[2], b[2]);
-        step(a[3], b[3]);
-    }
-    for (; count > 0; --count)
-        step(*a++, *b++);
-    return borrow;
+// out = 2^(64 count) - a, for a number that is not 0.
+void negate(Limb* out, const Limb* a, Size count) {
+    unsigned char borrow = 0;
+    for (Size i = 0; i < count; ++i)
+        subtractBorrow(out[i], 0, a[i], borrow);
 }
 
 // One limb of the quotient, at most one too great. `first` and `second` are the top limbs
@@ -84,15 +71,19 @@ void remainder(Limb* out, const Limb* a, Size aCount, const Limb* divisor, Size 
     Scratch normal(n);
     shiftUp(normal, divisor, n, shift);
     out[aCount] = shiftUp(out, a, aCount, shift);
-
     const Limb first = normal[n - 1];
     const Limb second = normal[n - 2];
     const LimbDivisor top(first);
+
+    // A multiple of the divisor is taken away by adding that of 2^(64 n) - divisor.
+    Scratch negative(n);
+    negate(negative, normal, n);
+    const auto addMultiple = kernels().addMultiple;
     for (Size i = aCount - n; i >= 0; --i) {
         Limb* const part = out + i; // n + 1 limbs
         const Limb quotient = estimate(top, first, second, part[n], part[n - 1], part[n - 2]);
-        const Limb borrow = subtractMultiple(part, normal, n, quotient);
-        if (part[n] < borrow)
+        const Limb carry = addMultiple(part, negative, n, quotient);
+        if (part[n] + carry != quotient)
             add(part, part, normal, n); // one too many, which is rare
     }
     shiftDown(out, out, n, shift);

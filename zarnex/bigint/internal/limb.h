@@ -73,98 +73,28 @@ inline Limb multiplyAdd(Limb a, Limb b, Limb addend, Limb& carry) {
 #endif
 }
 
-/// a + b + carry; `carry` is 0 or 1 before and after.
-inline Limb addCarry(Limb a, Limb b, unsigned char& carry) {
+/// sum = a + b + carry; `carry` is 0 or 1 before and after. Into the place where the sum is
+/// wanted, for compilers store it where they are told.
+inline void addCarry(Limb& sum, Limb a, Limb b, unsigned char& carry) {
 #if defined(ZARNEX_CARRY_INSTRUCTIONS)
-    Limb sum;
     carry = _addcarry_u64(carry, a, b, &sum);
-    return sum;
 #else
     const Limb partial = a + b;
-    const Limb sum = partial + carry;
+    sum = partial + carry;
     carry = (partial < a || sum < partial) ? 1 : 0;
-    return sum;
 #endif
 }
 
-/// a - b - borrow; `borrow` is 0 or 1 before and after.
-inline Limb subtractBorrow(Limb a, Limb b, unsigned char& borrow) {
+/// difference = a - b - borrow; `borrow` is 0 or 1 before and after.
+inline void subtractBorrow(Limb& difference, Limb a, Limb b, unsigned char& borrow) {
 #if defined(ZARNEX_CARRY_INSTRUCTIONS)
-    Limb difference;
     borrow = _subborrow_u64(borrow, a, b, &difference);
-    return difference;
 #else
     const Limb partial = a - b;
-    const Limb difference = partial - borrow;
+    difference = partial - borrow;
     borrow = (partial > a || difference > partial) ? 1 : 0;
-    return difference;
 #endif
 }
-
-/// A sum of products in three limbs, for results computed column by column: what
-/// belongs to one limb of the result is added up, then next() takes the limb out.
-class Accumulator {
-public:
-    void addProduct(Limb a, Limb b) {
-#if defined(ZARNEX_WIDE_LIMBS)
-        top_ += __builtin_add_overflow(low_, WideLimb{a} * b, &low_) ? 1 : 0;
-#else
-        add(product(a, b), 0);
-#endif
-    }
-
-    void add(Limb limb) {
-#if defined(ZARNEX_WIDE_LIMBS)
-        top_ += __builtin_add_overflow(low_, WideLimb{limb}, &low_) ? 1 : 0;
-#else
-        add({limb, 0}, 0);
-#endif
-    }
-
-    void add(const Accumulator& other) {
-#if defined(ZARNEX_WIDE_LIMBS)
-        top_ += other.top_ + (__builtin_add_overflow(low_, other.low_, &low_) ? 1 : 0);
-#else
-        add(other.low_, other.top_);
-#endif
-    }
-
-    /// The lowest limb of the sum.
-    Limb limb() const {
-#if defined(ZARNEX_WIDE_LIMBS)
-        return static_cast<Limb>(low_);
-#else
-        return low_.low;
-#endif
-    }
-
-    /// Takes out the lowest limb; the rest moves down to it.
-    Limb next() {
-        const Limb taken = limb();
-#if defined(ZARNEX_WIDE_LIMBS)
-        low_ = low_ >> limbBits | WideLimb{top_} << limbBits;
-#else
-        low_ = {low_.high, top_};
-#endif
-        top_ = 0;
-        return taken;
-    }
-
-private:
-#if defined(ZARNEX_WIDE_LIMBS)
-    WideLimb low_ = 0;
-#else
-    void add(LimbPair pair, Limb top) {
-        unsigned char carry = 0;
-        low_.low = addCarry(low_.low, pair.low, carry);
-        low_.high = addCarry(low_.high, pair.high, carry);
-        top_ += top + carry;
-    }
-
-    LimbPair low_ = {0, 0};
-#endif
-    Limb top_ = 0;
-};
 
 /// (high * 2^64 + low) / divisor, for `high` below `divisor`.
 inline Limb divideSlowly(LimbPair number, Limb divisor) {
@@ -200,8 +130,9 @@ public:
     Limb divide(LimbPair number, Limb& remainder) const {
         LimbPair quotient = product(reciprocal_, number.high);
         unsigned char carry = 0;
-        quotient.low = addCarry(quotient.low, number.low, carry);
-        quotient.high = addCarry(quotient.high, number.high, carry) + 1;
+        addCarry(quotient.low, quotient.low, number.low, carry);
+        addCarry(quotient.high, quotient.high, number.high, carry);
+        ++quotient.high;
         remainder = number.low - quotient.high * divisor_;
         if (remainder > quotient.low) {
             --quotient.high;

@@ -36,26 +36,26 @@ int compare(const Limb* a, const Limb* b, Size count) {
 unsigned char add(Limb* out, const Limb* a, const Limb* b, Size count) {
     unsigned char carry = 0;
     for (; count >= 4; count -= 4, out += 4, a += 4, b += 4) {
-        out[0] = addCarry(a[0], b[0], carry);
-        out[1] = addCarry(a[1], b[1], carry);
-        out[2] = addCarry(a[2], b[2], carry);
-        out[3] = addCarry(a[3], b[3], carry);
+        addCarry(out[0], a[0], b[0], carry);
+        addCarry(out[1], a[1], b[1], carry);
+        addCarry(out[2], a[2], b[2], carry);
+        addCarry(out[3], a[3], b[3], carry);
     }
     for (; count > 0; --count)
-        *out++ = addCarry(*a++, *b++, carry);
+        addCarry(*out++, *a++, *b++, carry);
     return carry;
 }
 
 unsigned char subtract(Limb* out, const Limb* a, const Limb* b, Size count) {
     unsigned char borrow = 0;
     for (; count >= 4; count -= 4, out += 4, a += 4, b += 4) {
-        out[0] = subtractBorrow(a[0], b[0], borrow);
-        out[1] = subtractBorrow(a[1], b[1], borrow);
-        out[2] = subtractBorrow(a[2], b[2], borrow);
-        out[3] = subtractBorrow(a[3], b[3], borrow);
+        subtractBorrow(out[0], a[0], b[0], borrow);
+        subtractBorrow(out[1], a[1], b[1], borrow);
+        subtractBorrow(out[2], a[2], b[2], borrow);
+        subtractBorrow(out[3], a[3], b[3], borrow);
     }
     for (; count > 0; --count)
-        *out++ = subtractBorrow(*a++, *b++, borrow);
+        subtractBorrow(*out++, *a++, *b++, borrow);
     return borrow;
 }
 
@@ -63,7 +63,7 @@ unsigned char propagateCarry(Limb* out, const Limb* a, Size count, unsigned char
     for (Size i = 0; i < count; ++i) {
         if (carry == 0 && out == a)
             break;
-        out[i] = addCarry(a[i], 0, carry);
+        addCarry(out[i], a[i], 0, carry);
     }
     return carry;
 }
@@ -72,7 +72,7 @@ unsigned char propagateBorrow(Limb* out, const Limb* a, Size count, unsigned cha
     for (Size i = 0; i < count; ++i) {
         if (borrow == 0 && out == a)
             break;
-        out[i] = subtractBorrow(a[i], 0, borrow);
+        subtractBorrow(out[i], a[i], 0, borrow);
     }
     return borrow;
 }

@@ -1,6 +1,7 @@
 #include <zarnex/bigint/internal/multiplication.h>
 
 #include <zarnex/bigint/internal/Scratch.h>
+#include <zarnex/bigint/internal/kernels.h>
 #include <zarnex/bigint/internal/limbs.h>
 
 #include <algorithm>
@@ -13,33 +14,6 @@ namespace {
 // From these counts on halving pays; measured on x86-64.
 constexpr Size halvingMultiply = 28;
 constexpr Size halvingSquare = 48;
-
-// The lowest `columns` limbs of a * b, each at once: no row is written and read again.
-void multiplyColumns(Limb* out, const Limb* a, Size aCount, const Limb* b, Size bCount,
-                     Size columns) {
-    Accumulator sum;
-    for (Size k = 0; k < columns; ++k) {
-        const Size first = (std::max)(k - bCount + 1, Size{0});
-        const Size end = (std::min)(k + 1, aCount);
-        addColumn(sum, a + first, b + (k - first), end - first);
-        out[k] = sum.next();
-    }
-}
-
-// The lowest `columns` limbs of a * a: each product of two different limbs once, doubled.
-void squareColumns(Limb* out, const Limb* a, Size count, Size columns) {
-    Accumulator sum;
-    for (Size k = 0; k < columns; ++k) {
-        const Size first = (std::max)(k - count + 1, Size{0});
-        Accumulator half;
-        addColumn(half, a + first, a + (k - first), (k + 1) / 2 - first);
-        sum.add(half);
-        sum.add(half);
-        if (k % 2 == 0)
-            sum.addProduct(a[k / 2], a[k / 2]);
-        out[k] = sum.next();
-    }
-}
 
 // out = |a - b|, in aCount limbs, of which `b` has as many or one less. Returns whether a < b.
 bool subtractAbsolute(Limb* out, const Limb* a, Size aCount, const Limb* b, Size bCount) {
@@ -63,9 +37,9 @@ Size scratchFor(Size count) {
 // Computer Programming, vol. 2, 4.3.3).
 void multiplyHalves(Limb* out, const Limb* a, const Limb* b, Size count, Limb* scratch) {
     if (a == b && count < halvingSquare)
-        return squareColumns(out, a, count, 2 * count);
+        return kernels().square(out, a, count);
     if (a != b && count < halvingMultiply)
-        return multiplyColumns(out, a, count, b, count, 2 * count);
+        return kernels().multiply(out, a, count, b, count);
 
     const Size low = (count + 1) / 2;
     const Size high = count - low;
@@ -96,7 +70,7 @@ void multiplyHalves(Limb* out, const Limb* a, const Limb* b, Size count, Limb* s
     carry = static_cast<unsigned char>(carry + add(out + low, out + low, middle, 2 * low));
     Limb* top = out + 3 * low;
     unsigned char step = 0;
-    *top = addCarry(*top, carry, step);
+    addCarry(*top, *top, carry, step);
     propagateCarry(top + 1, top + 1, out + 2 * count - (top + 1), step);
 }
 
@@ -114,12 +88,8 @@ void multiply(Limb* out, const Limb* a, Size aCount, const Limb* b, Size bCount)
         std::swap(a, b);
         std::swap(aCount, bCount);
     }
-    if (bCount == 1) {
-        out[aCount] = multiplyByLimb(out, a, aCount, b[0]);
-        return;
-    }
     if (bCount < halvingMultiply)
-        return multiplyColumns(out, a, aCount, b, bCount, aCount + bCount);
+        return kernels().multiply(out, a, aCount, b, bCount);
 
     Scratch scratch(2 * bCount + scratchFor(bCount));
     if (aCount == bCount)
@@ -142,17 +112,9 @@ void multiply(Limb* out, const Limb* a, Size aCount, const Limb* b, Size bCount)
 
 void square(Limb* out, const Limb* a, Size count) {
     if (count < halvingSquare)
-        return squareColumns(out, a, count, 2 * count);
+        return kernels().square(out, a, count);
     Scratch scratch(scratchFor(count));
     multiplyHalves(out, a, a, count, scratch);
-}
-
-void multiplyLow(Limb* out, const Limb* a, const Limb* b, Size count) {
-    multiplyColumns(out, a, count, b, count, count);
-}
-
-void squareLow(Limb* out, const Limb* a, Size count) {
-    squareColumns(out, a, count, count);
 }
 
 } // namespace zarnex::detail

@@ -17,6 +17,10 @@ int bytesToWide(unsigned int codePage, const char* text, int count, wchar_t* out
                             : codePageToWide(codePage, text, count, out, room);
 }
 
+std::size_t likelyWideUnits(unsigned int codePage, const char* text, std::size_t count) {
+    return isUtf8(codePage) ? utf8WideUnits(text, count) : count;
+}
+
 int wideToBytes(unsigned int codePage, const wchar_t* text, int count, char* out, int room) {
     return isUtf8(codePage) ? wideToUtf8(text, count, out, room)
                             : wideToCodePage(codePage, text, count, out, room);

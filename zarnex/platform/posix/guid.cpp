@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <cstring>
 #include <cwchar>
 
 namespace zarnex::platform {
@@ -19,6 +20,14 @@ constexpr std::array<std::uint8_t, 4> hyphens = {8, 13, 18, 23};
 
 constexpr wchar_t digits[] = L"0123456789abcdef";
 constexpr int noDigit = -1;
+
+/// The two digits of each byte.
+constexpr auto byteDigits = [] {
+    std::array<std::array<wchar_t, 2>, 256> all;
+    for (std::size_t byte = 0; byte < all.size(); ++byte)
+        all[byte] = {digits[byte >> 4], digits[byte & 15]};
+    return all;
+}();
 
 /// The values of the digits from '0' to 'f', and noDigit between them.
 constexpr auto digitValues = [] {
@@ -81,10 +90,8 @@ bool createGuid(GUID& guid) {
 
 bool guidToText(const GUID& guid, wchar_t (&text)[guidTextSize]) {
     const Bytes bytes = bytesOf(guid);
-    for (std::size_t i = 0; i < bytes.size(); ++i) {
-        text[places[i]] = digits[bytes[i] >> 4];
-        text[places[i] + 1] = digits[bytes[i] & 15];
-    }
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        std::memcpy(text + places[i], &byteDigits[bytes[i]], sizeof byteDigits[0]);
     for (const std::size_t place : hyphens)
         text[place] = L'-';
     text[guidTextSize - 1] = L'\0';

@@ -19,6 +19,10 @@ int bytesToWide(unsigned int codePage, const char* text, int count, wchar_t* out
     return MultiByteToWideChar(codePage, 0, text, count, out, room);
 }
 
+std::size_t likelyWideUnits(unsigned int codePage, const char* text, std::size_t count) {
+    return isUtf8(codePage) ? utf8WideUnits(text, count) : count;
+}
+
 int wideToBytes(unsigned int codePage, const wchar_t* text, int count, char* out, int room) {
     if (isUtf8(codePage))
         return wideToUtf8(text, count, out, room);

@@ -1,5 +1,7 @@
 #include <zarnex/strings/internal/numberText.h>
 
+#include <zarnex/strings/internal/fewDecimals.h>
+
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -72,6 +74,8 @@ char* finiteDigits(DigitRoom& room, double magnitude, char kind, int precision) 
     char* const end = room + sizeof room;
     switch (kind) {
     case 'f':
+        if (char* const few = fewDecimals(room, magnitude, precision))
+            return few;
         return std::to_chars(room, end, magnitude, std::chars_format::fixed, precision).ptr;
     case 'e':
         return std::to_chars(room, end, magnitude, std::chars_format::scientific, precision).ptr;

@@ -20,9 +20,12 @@ inline std::size_t textLength(const wchar_t* text) {
 }
 
 /// The length of `text`, or `most` if no terminator stands before that.
-template <class Char>
-std::size_t textLength(const Char* text, std::size_t most) {
-    return static_cast<std::size_t>(std::find(text, text + most, Char{}) - text);
+inline std::size_t textLength(const char* text, std::size_t most) {
+    return strnlen(text, most);
+}
+
+inline std::size_t textLength(const wchar_t* text, std::size_t most) {
+    return wcsnlen(text, most);
 }
 
 /// A null pointer counts as the empty text.
@@ -40,20 +43,6 @@ void copyUnits(Char* out, const Char* text, std::size_t count, std::size_t room)
     count = (std::min)(count, room - 1);
     std::memmove(out, text, count * sizeof(Char));
     out[count] = Char{};
-}
-
-/// The first place in [text, end) where the `count` units at `wanted` stand, or
-/// null. `count` is above 0.
-inline const wchar_t* findUnits(const wchar_t* text, const wchar_t* end, const wchar_t* wanted,
-                                std::size_t count) {
-    while (static_cast<std::size_t>(end - text) >= count) {
-        const std::size_t starts = static_cast<std::size_t>(end - text) - count + 1;
-        text = std::wmemchr(text, *wanted, starts);
-        if (text == nullptr || std::wmemcmp(text, wanted, count) == 0)
-            return text;
-        ++text;
-    }
-    return nullptr;
 }
 
 } // namespace zarnex::detail

@@ -22,6 +22,9 @@ namespace zarnex::detail {
 
 inline constexpr int growthStep = 32;
 
+/// Below so many units, a conversion to bytes takes place on the stack.
+inline constexpr std::size_t shortText = 256;
+
 /// A friend of the string classes: their arrays, and strings made of arrays.
 struct TextAccess {
     template <class String>
@@ -46,6 +49,17 @@ const Char* textOf(const ZXArray<Char>& array) {
 template <class Char>
 std::size_t measure(const ZXArray<Char>& array) {
     return textLength(textOf(array));
+}
+
+/// An array with room for `slots`, allocated as `array` would be if it grew to hold them.
+template <class Char>
+ZXArray<Char> newLike(const ZXArray<Char>& array, std::size_t slots) {
+    ZXArray<Char> made;
+    made.setStep(array.getStep());
+    if (array.getStep() < 1 || static_cast<long long>(slots) <= array.allocLength())
+        made.setAllocSize(array.allocLength());
+    made.reserve(static_cast<long long>(slots));
+    return made;
 }
 
 template <class Char>
@@ -168,7 +182,12 @@ String subText(const ZXArray<Char>& array, int start, int count) {
     start = wrappedIndex(start, size);
     const int available = size - start;
     const int taken = count > 0 && count < available ? count : available;
-    return taken < 1 ? String() : String(textOf(array) + start, taken);
+    if (taken < 1)
+        return String();
+    ZXArray<Char> part;
+    part.setStep(growthStep);
+    assignText(part, textOf(array) + start, notNegative(taken));
+    return TextAccess::make<String>(std::move(part));
 }
 
 /// Sets the text by a printf format; null changes nothing.
@@ -191,6 +210,7 @@ void setFormatted(ZXArray<Char>& array, const Char* format, std::va_list argumen
     std::size_t room = (std::max)(notNegative(array.length() - 1), 2 * formatLength);
     while (result.length() >= room)
         room *= 2;
+    array.reserve(static_cast<long long>(room + 1));
     assignText(array, result.data(), result.length());
     setUsed(array, room + 1);
     array[static_cast<int>(room)] = Char{};
@@ -204,19 +224,31 @@ template <class Out, class In>
 void assignConverted(ZXArray<Out>& array, const In* text, unsigned int codePage) {
     text = textOrEmpty(text);
     const bool isNew = array.allocLength() == 0;
+    const std::size_t length = textLength(text);
+    const int count = length < INT_MAX ? static_cast<int>(length + 1) : -1;
     int size = 0;
     if constexpr (sizeof(Out) > sizeof(In)) {
-        // Hardly ever more units than bytes: converted at once, a new array cut to size.
-        const std::size_t most = textLength(text) + 1;
-        if (most < INT_MAX) {
-            array.reserve(static_cast<long long>(most));
-            size = convertUnits(codePage, text, -1, static_cast<Out*>(array), array.allocLength());
+        // Measured by a quick look, and converted once.
+        const std::size_t likely = platform::likelyWideUnits(codePage, text, length) + 1;
+        if (likely < INT_MAX) {
+            array.reserve(static_cast<long long>(likely));
+            Out* const out = array;
+            size = convertUnits(codePage, text, count, out, array.allocLength());
+        }
+    } else if (length < shortText) {
+        // Converted on the stack instead of measured.
+        Out units[4 * shortText];
+        size = convertUnits(codePage, text, count, units, 4 * shortText);
+        if (size != 0) {
+            assignText(array, units, notNegative(size - 1));
+            return;
         }
     }
     if (size == 0) {
-        const int needed = convertUnits(codePage, text, -1, static_cast<Out*>(nullptr), 0);
+        const int needed = convertUnits(codePage, text, count, static_cast<Out*>(nullptr), 0);
         array.reserve((std::max)(needed, 1));
-        size = needed == 0 ? 0 : convertUnits(codePage, text, -1, static_cast<Out*>(array), needed);
+        Out* const out = array;
+        size = needed == 0 ? 0 : convertUnits(codePage, text, count, out, needed);
     }
     if (isNew)
         resizeText(array, size - 1);

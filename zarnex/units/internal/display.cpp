@@ -1,16 +1,31 @@
 #include <zarnex/units/internal/display.h>
 
 #include <zarnex/strings/internal/TextBuffer.h>
+#include <zarnex/strings/internal/fewDecimals.h>
 #include <zarnex/strings/internal/numberText.h>
 #include <zarnex/strings/internal/text.h>
+#include <zarnex/strings/internal/textArray.h>
 
+#include <algorithm>
 #include <climits>
+#include <cmath>
+#include <cstddef>
+#include <utility>
 
 namespace zarnex::detail {
 
 namespace {
 
 void appendNumber(TextBuffer<wchar_t>& out, double value, int width, int precision) {
+    char digits[1 + fewDecimalsRoom] = {'-'};
+    const char* const begin = digits + (std::signbit(value) ? 0 : 1);
+    const char* const end = fewDecimals(digits + 1, std::fabs(value), precision);
+    if (end != nullptr && width >= 0) {
+        const std::ptrdiff_t padding = (std::max)(width - (end - begin), std::ptrdiff_t{0});
+        out.append(L' ', static_cast<std::size_t>(padding));
+        out.append(begin, end);
+        return;
+    }
     NumberLayout layout;
     layout.left = width < 0;
     layout.width = width >= 0 ? width : width == INT_MIN ? INT_MAX : -width;
@@ -19,7 +34,10 @@ void appendNumber(TextBuffer<wchar_t>& out, double value, int width, int precisi
 }
 
 ZString made(const TextBuffer<wchar_t>& text) {
-    return ZString(text.data(), static_cast<int>(text.length()));
+    ZXArray<wchar_t> array;
+    array.setStep(growthStep);
+    assignText(array, text.data(), text.length());
+    return TextAccess::make<ZString>(std::move(array));
 }
 
 } // namespace

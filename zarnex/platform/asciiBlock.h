@@ -1,0 +1,94 @@
+#pragma once
+
+/// Sixteen characters at once between bytes and wide units, as far as they are ASCII.
+
+#include <algorithm>
+#include <cstddef>
+
+#if defined(__SSE2__)
+#include <bit>
+#include <emmintrin.h>
+#endif
+
+namespace zarnex::platform {
+
+inline constexpr std::ptrdiff_t blockSize = 16;
+
+#if defined(__SSE2__)
+
+inline void widenBlock(__m128i bytes, wchar_t* out) {
+    const __m128i zero = _mm_setzero_si128();
+    const __m128i halves[] = {_mm_unpacklo_epi8(bytes, zero), _mm_unpackhi_epi8(bytes, zero)};
+    auto* const next = reinterpret_cast<__m128i*>(out);
+    for (int i = 0; i < 2; ++i) {
+        if constexpr (sizeof(wchar_t) == 2) {
+            _mm_storeu_si128(next + i, halves[i]);
+        } else {
+            _mm_storeu_si128(next + 2 * i, _mm_unpacklo_epi16(halves[i], zero));
+            _mm_storeu_si128(next + 2 * i + 1, _mm_unpackhi_epi16(halves[i], zero));
+        }
+    }
+}
+
+/// Widens the characters of ASCII in front of the 16 bytes at `text` and returns their
+/// number. With `mayFill`, what lies behind them in the block of `out` is written over too.
+inline std::ptrdiff_t copyAscii(const unsigned char* text, wchar_t* out, bool mayFill) {
+    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text));
+    const auto marks = static_cast<unsigned>(_mm_movemask_epi8(bytes));
+    if (marks == 0) {
+        widenBlock(bytes, out);
+        return blockSize; // a constant, so that the next block need not wait for a count
+    }
+    const std::ptrdiff_t count = std::countr_zero(marks);
+    if (mayFill)
+        widenBlock(bytes, out);
+    else
+        std::copy_n(text, count, out);
+    return count;
+}
+
+/// The same the other way.
+inline std::ptrdiff_t copyAscii(const wchar_t* text, char* out, bool mayFill) {
+    const auto* const units = reinterpret_cast<const __m128i*>(text);
+    const auto part = [units](int i) { return _mm_loadu_si128(units + i); };
+    __m128i bytes; // 80 and above for units of as much, but 0 for those with the highest bit
+    unsigned highest;
+    if constexpr (sizeof(wchar_t) == 2) {
+        bytes = _mm_packus_epi16(part(0), part(1));
+        highest = static_cast<unsigned>(_mm_movemask_epi8(_mm_or_si128(part(0), part(1)))) & 0xAAAA;
+    } else {
+        bytes =
+            _mm_packus_epi16(_mm_packs_epi32(part(0), part(1)), _mm_packs_epi32(part(2), part(3)));
+        const __m128i all =
+            _mm_or_si128(_mm_or_si128(part(0), part(1)), _mm_or_si128(part(2), part(3)));
+        highest = static_cast<unsigned>(_mm_movemask_ps(_mm_castsi128_ps(all)));
+    }
+    const auto marks = static_cast<unsigned>(_mm_movemask_epi8(bytes));
+    auto* const block = reinterpret_cast<__m128i*>(out);
+    if ((marks | highest) == 0) {
+        _mm_storeu_si128(block, bytes);
+        return blockSize;
+    }
+    const std::ptrdiff_t count = highest != 0 ? 0 : std::countr_zero(marks);
+    if (mayFill)
+        _mm_storeu_si128(block, bytes);
+    else
+        std::transform(text, text + count, out,
+                       [](wchar_t unit) { return static_cast<char>(unit); });
+    return count;
+}
+
+#else
+
+/// Copies the characters of ASCII in front of the block at `text` and returns their number.
+template <class In, class Out>
+std::ptrdiff_t copyAscii(const In* text, Out* out, bool) {
+    std::ptrdiff_t count = 0;
+    for (; count < blockSize && text[count] >= 0 && text[count] < 0x80; ++count)
+        out[count] = static_cast<Out>(text[count]);
+    return count;
+}
+
+#endif
+
+} // namespace zarnex::platform
