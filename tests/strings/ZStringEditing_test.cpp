@@ -51,6 +51,7 @@ TEST(ZString, SearchesAndComparesAsUnitByUnitMappingTells) {
     // U+0130 and U+212A, the Kelvin sign, have lower cases in ASCII.
     constexpr wchar_t units[] = L"aaaaaaAAbBiIkKz@[\u00E9\u00C9\u0130\u0131\u212A\uFF21";
     std::mt19937 engine(11);
+    const KeptLocale kept;
     for (const char* const locale : {"C", "C.UTF-8", "tr_TR.UTF-8", "Turkish_Turkey.1254"}) {
         if (std::setlocale(LC_CTYPE, locale) == nullptr)
             continue;
@@ -80,7 +81,6 @@ TEST(ZString, SearchesAndComparesAsUnitByUnitMappingTells) {
             ASSERT_EQ(wide(mapped), lower(text));
         }
     }
-    std::setlocale(LC_CTYPE, "C");
 }
 
 TEST(ZString, FindsOneOfASet) {

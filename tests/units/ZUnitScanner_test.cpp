@@ -359,7 +359,9 @@ TEST(ZUnitScanner, ReadsShortAndLongNumbersToTheNearestDouble) {
         const std::wstring text(number.begin(), number.end());
         ZUnitScanner scanner(text.c_str());
         ASSERT_EQ(scanner.yylex(), 1);
-        ASSERT_EQ(scanner.value, std::strtod(number.c_str(), nullptr)) << number;
+        const double nearest =
+            inDefaultLocale([&number] { return std::strtod(number.c_str(), nullptr); });
+        ASSERT_EQ(scanner.value, nearest) << number;
     }
 }
 
