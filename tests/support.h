@@ -33,15 +33,39 @@ inline std::wstring wide(const ZString& text) {
     return std::wstring(static_cast<const wchar_t*>(text));
 }
 
-/// Sets a locale with a decimal comma for the life of the object.
-class CommaLocale {
+/// Whether the process has the locale that it starts with, which knows the case of A to Z alone.
+inline bool isDefaultLocale() {
+    return std::string(std::setlocale(LC_ALL, nullptr)) == "C";
+}
+
+/// Puts the locale of the process back at the end of its life.
+class KeptLocale {
 public:
-    CommaLocale() : before_(std::setlocale(LC_ALL, nullptr)) {
+    KeptLocale() : before_(std::setlocale(LC_ALL, nullptr)) {}
+    ~KeptLocale() {
+        std::setlocale(LC_ALL, before_.c_str());
+    }
+    KeptLocale(const KeptLocale&) = delete;
+    KeptLocale& operator=(const KeptLocale&) = delete;
+
+private:
+    std::string before_;
+};
+
+/// What `call` returns under the default locale: for oracles that depend on it.
+template <class Call>
+auto inDefaultLocale(Call call) {
+    const KeptLocale kept;
+    std::setlocale(LC_ALL, "C");
+    return call();
+}
+
+/// Sets a locale with a decimal comma for the life of the object.
+class CommaLocale : KeptLocale {
+public:
+    CommaLocale() {
         for (const char* name : {"de_DE.UTF-8", "German_Germany.1252"})
             isSet_ = isSet_ || std::setlocale(LC_ALL, name) != nullptr;
-    }
-    ~CommaLocale() {
-        std::setlocale(LC_ALL, before_.c_str());
     }
 
     bool isSet() const {
@@ -49,6 +73,5 @@ public:
     }
 
 private:
-    std::string before_;
     bool isSet_ = false;
 };

@@ -2,6 +2,8 @@
 #include <windows.h>
 #endif
 
+#include "tests/strings/systemCodePage.h"
+
 #include <zarnex/platform/records.h>
 #include <zarnex/strings/FontUtils.h>
 #include <zarnex/strings/StringUtils.h>
@@ -17,22 +19,16 @@ namespace {
 using zarnex::errorSize;
 
 // U+00E9 in the system code page: 1252 under Wine, UTF-8 on Linux.
-#if defined(_WIN32)
-constexpr char eAcute[] = "\xE9";
-#else
-constexpr char eAcute[] = "\xC3\xA9";
-#endif
-constexpr std::size_t eAcuteSize = sizeof eAcute;
-
 TEST(StringUtils, SizesCountTheTerminatorAndNullIsAnError) {
     EXPECT_EQ(StringUtils::bufferSize(""), 1u);
     EXPECT_EQ(StringUtils::bufferSize(L"abc"), 4u);
     EXPECT_EQ(StringUtils::multiByteSize("abc"), 4u);
     EXPECT_EQ(StringUtils::multiByteSize(L""), 1u);
-    EXPECT_EQ(StringUtils::multiByteSize(L"\u00E9"), eAcuteSize);
-    EXPECT_EQ(StringUtils::unicodeSize(eAcute), 2u);
+    const auto [bytes, unit] = systemLetter();
+    EXPECT_EQ(StringUtils::multiByteSize(unit.c_str()), bytes.size() + 1);
+    EXPECT_EQ(StringUtils::unicodeSize(bytes.c_str()), 2u);
     EXPECT_EQ(StringUtils::unicodeSize(L"abc"), 4u);
-    EXPECT_EQ(StringUtils::stringLength(eAcute), 1u);
+    EXPECT_EQ(StringUtils::stringLength(bytes.c_str()), 1u);
     EXPECT_EQ(StringUtils::stringLength(""), 0u);
     EXPECT_EQ(StringUtils::stringLength(L"abc"), 3u);
     constexpr const char* noBytes = nullptr;
@@ -88,12 +84,13 @@ TEST(StringUtils, CopiesAreCutAndTerminated) {
 }
 
 TEST(StringUtils, ConversionsReportWhatTheyWroteOrThatItDidNotFit) {
+    const auto [bytes, unit] = systemLetter();
     checkCopy<char>(L"abc", 8, 4, "abc");
     checkCopy<char>(L"abcdef", 4, errorSize, "abc");
-    checkCopy<char>(L"\u00E9", 8, eAcuteSize, eAcute);
+    checkCopy<char>(unit.c_str(), 8, bytes.size() + 1, bytes);
     checkCopy<wchar_t>("abc", 4, 4, L"abc");
     checkCopy<wchar_t>("abcdef", 4, errorSize, L"abc");
-    checkCopy<wchar_t>(eAcute, 8, 2, L"\u00E9");
+    checkCopy<wchar_t>(bytes.c_str(), 8, 2, unit);
 }
 
 #if !defined(_WIN32)

@@ -51,6 +51,7 @@ TEST(ZString, SearchesAndComparesAsUnitByUnitMappingTells) {
     // U+0130 and U+212A, the Kelvin sign, have lower cases in ASCII.
     constexpr wchar_t units[] = L"aaaaaaAAbBiIkKz@[\u00E9\u00C9\u0130\u0131\u212A\uFF21";
     std::mt19937 engine(11);
+    const KeptLocale kept;
     for (const char* const locale : {"C", "C.UTF-8", "tr_TR.UTF-8", "Turkish_Turkey.1254"}) {
         if (std::setlocale(LC_CTYPE, locale) == nullptr)
             continue;
@@ -80,7 +81,6 @@ TEST(ZString, SearchesAndComparesAsUnitByUnitMappingTells) {
             ASSERT_EQ(wide(mapped), lower(text));
         }
     }
-    std::setlocale(LC_CTYPE, "C");
 }
 
 TEST(ZString, FindsOneOfASet) {
@@ -208,9 +208,17 @@ TEST(ZString, TrimsBlanksTabsAndLineEnds) {
 TEST(ZString, MapsCase) {
     ZString string(L"aB1\u00E9");
     string.toUpper();
-    EXPECT_EQ(wide(string), L"AB1\u00E9");
+    EXPECT_EQ(wide(string), isDefaultLocale() ? L"AB1\u00E9" : L"AB1\u00C9");
     string.toLower();
     EXPECT_EQ(wide(string), L"ab1\u00E9");
+
+    // The Turkish i keeps its dot or has none, in either case.
+    const std::string locale = std::setlocale(LC_ALL, nullptr);
+    const bool turkish = locale.compare(0, 2, "tr") == 0;
+    ZString letter(L"I");
+    letter.toLower();
+    EXPECT_EQ(wide(letter), turkish ? L"\u0131" : L"i");
+    EXPECT_EQ(ZString(L"INCH") == L"inch", !turkish);
 }
 
 TEST(ZString, EditsLikeTheStandardString) {

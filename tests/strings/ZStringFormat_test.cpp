@@ -138,7 +138,7 @@ TEST(ZStringSet, AgreesWithTheStandardFormatterOnRandomDoubles) {
             continue;
         const char* const format = formats[turn % 12];
         char expected[512];
-        std::snprintf(expected, sizeof expected, format, value);
+        inDefaultLocale([&] { return std::snprintf(expected, sizeof expected, format, value); });
 #if defined(_WIN32)
         if (std::string(format).find_first_of("eEg") != std::string::npos)
             continue; // that runtime's formatter writes three digits of exponent

@@ -203,7 +203,7 @@ TEST(ZString, OperatorsIgnoreCaseAndIsEqualDoesNot) {
     EXPECT_TRUE(ZString(L"a") < ZString(L"B"));
     EXPECT_TRUE(ZString(L"B") > ZString(L"a"));
     EXPECT_TRUE(ZString(L"ab") < ZString(L"ABC"));
-    EXPECT_FALSE(ZString(L"\u00C9") == L"\u00E9") << "the default locale maps A to Z alone";
+    EXPECT_EQ(ZString(L"\u00C9") != L"\u00E9", isDefaultLocale());
     EXPECT_TRUE(ZString(L"[") < ZString(L"A")) << "compared as the lower case 'a'";
 
     ZString string(L"b"); // not const: it converts to a pointer, which must not be compared
@@ -222,8 +222,10 @@ TEST(ZString, HashesTheLowerCasedText) {
     EXPECT_EQ(ZString(L"a").hash(), 'a');
     EXPECT_EQ(ZString(L"Abc").hash(), ZString(L"aBC").hash());
     // By hand: seven letters overflow 28 bits once.
+    ZString lower(L"STITCHES");
+    lower.toLower(); // a Turkish i has no dot
     unsigned hash = 0;
-    for (const char c : {'s', 't', 'i', 't', 'c', 'h', 'e', 's'}) {
+    for (const wchar_t c : wide(lower)) {
         hash = hash * 16 + static_cast<unsigned>(c);
         hash = (hash ^ (hash >> 28 << 4)) % (1u << 28);
     }

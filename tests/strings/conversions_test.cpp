@@ -1,3 +1,4 @@
+#include "tests/strings/systemCodePage.h"
 #include "tests/support.h"
 
 #include <zarnex/strings/StringUtils.h>
@@ -20,12 +21,6 @@ std::string bytesOf(const ZMultiByteString& text) {
 
 std::wstring unitsOf(const ZWideString& text) {
     return std::wstring(static_cast<const wchar_t*>(text));
-}
-
-// The system code page: 1252 under Wine or, under a Japanese locale, 932; UTF-8 on Linux.
-bool isSystemCodePage(unsigned codePage) {
-    const ZWideString text(L"\u20AC\u30C6"); // two characters that tell the code pages apart
-    return wideToMbs(text, 0) == wideToMbs(text, codePage);
 }
 
 TEST(Utf8, IllFormedSequencesGiveAReplacementForEachMaximalSubpart) {

@@ -1,3 +1,5 @@
+#include "tests/support.h"
+
 #include <zarnex/runtime/exiting.h>
 #include <zarnex/units/ZUnitScanner.h>
 
@@ -72,6 +74,7 @@ TEST(ZUnitScanner, TakesTheLongestTokenAndDropsTheRestUnderEveryLocale) {
         {allOnes, "=2"},
         {L"1\r\n2\u00B0", "=1 =2"},
     };
+    const KeptLocale kept;
     for (const char* locale : {"C", "", "de_DE.UTF-8", "tr_TR.UTF-8", "German", "Turkish"}) {
         if (std::setlocale(LC_ALL, locale) == nullptr)
             continue; // not on this machine; "C" always is
@@ -82,7 +85,6 @@ TEST(ZUnitScanner, TakesTheLongestTokenAndDropsTheRestUnderEveryLocale) {
             EXPECT_EQ(scanner.yylex(), 0) << "the end must last";
         }
     }
-    std::setlocale(LC_ALL, "C");
 }
 
 TEST(ZUnitScanner, TellsWhereTokensStandAndWhetherAWordWasDropped) {
@@ -154,8 +156,9 @@ public:
                 ++at;
                 continue;
             }
-            if (token == 1 && text.find_first_of("0123456789", at) < at + length)
-                number_ = std::strtod(text.substr(at, length).c_str(), nullptr);
+            const std::string word = text.substr(at, length);
+            if (token == 1 && word.find_first_of("0123456789") != std::string::npos)
+                number_ = inDefaultLocale([&word] { return std::strtod(word.c_str(), nullptr); });
             if (token != 0) {
                 out << token << '@' << at << '-' << at + length << (dropped ? "!" : "") << '='
                     << number_ << ' ';
@@ -356,7 +359,9 @@ TEST(ZUnitScanner, ReadsShortAndLongNumbersToTheNearestDouble) {
         const std::wstring text(number.begin(), number.end());
         ZUnitScanner scanner(text.c_str());
         ASSERT_EQ(scanner.yylex(), 1);
-        ASSERT_EQ(scanner.value, std::strtod(number.c_str(), nullptr)) << number;
+        const double nearest =
+            inDefaultLocale([&number] { return std::strtod(number.c_str(), nullptr); });
+        ASSERT_EQ(scanner.value, nearest) << number;
     }
 }
 

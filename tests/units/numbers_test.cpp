@@ -111,7 +111,7 @@ TEST(ZRealNumber, ReadsWhatTheStandardReaderReads) {
         for (wchar_t& unit : text)
             unit = units[random() % count];
         const double number = ZRealNumber(ZString(text.c_str()));
-        const double expected = std::wcstod(text.c_str(), nullptr);
+        const double expected = inDefaultLocale([&] { return std::wcstod(text.c_str(), nullptr); });
         ASSERT_EQ(number, expected) << shown(text.c_str());
 #if !defined(_WIN32) // that runtime gives -0 for a "-" without a number
         ASSERT_EQ(std::signbit(number), std::signbit(expected)) << shown(text.c_str());

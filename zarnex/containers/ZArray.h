@@ -275,7 +275,7 @@ void ZArray<T>::resizeTo(std::uint32_t bytes) {
 template <class T>
 void ZArray<T>::shiftFrom(std::int64_t i, int offset) {
     const std::int64_t end = blockBytes_ / sizeof(T);
-    transfer(i + offset, i, end - i, 4);
+    check(transfer(i + offset, i, end - i, 4));
 }
 
 template <class T>

@@ -67,10 +67,10 @@ public:
     /// not called.
     ///
     /// `visit` must not delete groups or put groups into others; for a member that it takes out see
-    /// apply().
+    /// apply(). Without memory for the way back up std::bad_alloc.
     void traverse(void (*visit)(ZGroupable*));
 
-    /// The members, in order.
+    /// The members, in order; std::bad_alloc as with every list.
     ZList<ZGroupable*> getItemList();
 
     /// 1 if both have the same members in the same order, else 0; 0 for null.

@@ -18,6 +18,10 @@
 /// iterators also only as long as it stays in this list: not past join(), inject(),
 /// += or a move. At most 2^31 - 1 elements. Not safe for concurrent modification.
 ///
+/// Nodes come from the throwing operator new: without memory std::bad_alloc, and the list is
+/// as it was. Only an assignment then holds what it copied so far, and move() has taken its
+/// element out.
+///
 ///     ZList<int> sizes{30, 10};
 ///     sizes.add(20);          // [30, 10, 20]
 ///     sizes.move(0, 2);       // [10, 20, 30]

@@ -20,10 +20,10 @@
 ///     lengths.add(2.5);
 ///     lengths[3] = 4.0; // length 4
 ///
-/// Nothing throws. Where storage cannot be had, operations that must return a
-/// slot end the process with "failed alloc" and status 1; the others leave the
-/// array as it was, copies come out empty. Adding is amortised constant, every
-/// other change linear in the elements moved.
+/// Nothing throws but the copying of elements that throws, such as that of lists. Where
+/// storage cannot be had, operations that must return a slot end the process with "failed
+/// alloc" and status 1; the others leave the array as it was, copies come out empty. Adding
+/// is amortised constant, every other change linear in the elements moved.
 template <class T>
 class ZXArray {
 public:

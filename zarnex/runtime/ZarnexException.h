@@ -11,6 +11,8 @@
 ///
 ///     throw ZarnexException("hoop not attached", 12, this);
 ///
+/// Without memory for the message, construction and copying throw std::bad_alloc.
+///
 /// Copies go through the virtual accessors, so a copy of an object of a derived
 /// class, taken as a ZarnexException, holds what the overrides answer.
 class ZARNEX_API ZarnexException : public std::exception {

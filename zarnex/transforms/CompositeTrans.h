@@ -15,7 +15,9 @@
 ///     CompositeTrans<DPoint> owner(1);
 ///     owner.addTrans(new Shift(3, 4)); // the host's own transform; deleted with the chain
 ///
-/// An empty chain is the identity. Mapping is linear in the number of members.
+/// An empty chain is the identity. Mapping is linear in the number of members. Adding and
+/// copying throw std::bad_alloc without memory; the chain is then without the member, which
+/// stays the host's, and without those not copied yet.
 template <class P>
 class CompositeTrans : public ArbTrans<P> {
 public:

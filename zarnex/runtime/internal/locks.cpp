@@ -1,22 +1,23 @@
 #include <zarnex/runtime/internal/locks.h>
 
 #include <zarnex/runtime/MiniLock.h>
+#include <zarnex/runtime/internal/Immortal.h>
 
 namespace zarnex::detail {
 
 MiniLock& refCountLock() {
-    static MiniLock& lock = *new MiniLock;
-    return lock;
+    static const Immortal<MiniLock> lock;
+    return *lock;
 }
 
 MiniLock& scannerLock() {
-    static MiniLock& lock = *new MiniLock;
-    return lock;
+    static const Immortal<MiniLock> lock;
+    return *lock;
 }
 
 MiniLock& sortLock() {
-    static MiniLock& lock = *new MiniLock;
-    return lock;
+    static const Immortal<MiniLock> lock;
+    return *lock;
 }
 
 } // namespace zarnex::detail

@@ -1,25 +1,27 @@
 #include <zarnex/units/internal/labels.h>
 
+#include <zarnex/runtime/internal/Immortal.h>
+
 namespace zarnex::detail {
 
 ZString& millimeterLabel() {
-    static ZString& label = *new ZString(L"mm");
-    return label;
+    static const Immortal<ZString> label(L"mm");
+    return *label;
 }
 
 ZString& inchLabel() {
-    static ZString& label = *new ZString(L"in");
-    return label;
+    static const Immortal<ZString> label(L"in");
+    return *label;
 }
 
 ZString& millimeterPerSecLabel() {
-    static ZString& label = *new ZString(L"mm/s");
-    return label;
+    static const Immortal<ZString> label(L"mm/s");
+    return *label;
 }
 
 ZString& degreeLabel() {
-    static ZString& label = *new ZString(L"\u00B0");
-    return label;
+    static const Immortal<ZString> label(L"\u00B0");
+    return *label;
 }
 
 } // namespace zarnex::detail

@@ -1,0 +1,391 @@
+// Arrays, lists, groups and sorting.
+
+#include "tests/memory/operations.h"
+
+#include <zarnex/foundation.h>
+
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace {
+
+using Ints = ZXArray<int>;
+
+/// An array that holds `first`, `first` + 1 and so on.
+bool counts(const Ints& array, int first, int length) {
+    bool same = array.length() == length && array.allocLength() >= length;
+    for (int i = 0; same && i < length; ++i)
+        same = array[i] == first + i;
+    return same;
+}
+
+Ints counted(int length) {
+    Ints array;
+    for (int i = 0; i < length; ++i)
+        array.add(i);
+    return array;
+}
+
+/// `edit` either does all of its work on a full array of 32 or leaves it as it was.
+template <class Edit, class Done>
+void edited(Trial& trial, Edit edit, Done isDone) {
+    Ints array = counted(32);
+    trial.attempt([&] { edit(array); });
+    const bool unchanged = counts(array, 0, 32);
+    trial.expect(isDone(array) || (trial.failed() && unchanged));
+    const int before = array.length();
+    array.add(7);
+    trial.expect(array.length() == before + 1 && array[before] == 7);
+}
+
+/// A list whose ring runs through `length` elements in both directions.
+template <class T>
+bool isRing(const ZList<T>& list, long length) {
+    long forward = 0, backward = 0;
+    for (auto at = list.begin(); at != list.end(); ++at)
+        ++forward;
+    for (auto at = list.rbegin(); at != list.rend(); ++at)
+        ++backward;
+    return list.length() == length && forward == length && backward == length;
+}
+
+class Item : public ZGroupable {};
+
+class ByValue : public QSort::Callback {
+public:
+    int compare(const void* a, const void* b) override {
+        return *static_cast<const int*>(a) - *static_cast<const int*>(b);
+    }
+};
+
+} // namespace
+
+Group arrayOperations() {
+    return {
+        "`ZXArray`",
+        {
+            {"ZXArray(n, step)", goesOn,
+             [](Trial& t) {
+                 std::optional<Ints> array;
+                 t.attempt([&] { array.emplace(40, 8); });
+                 t.expect(array && array->length() == (t.failed() ? 0 : 40));
+                 (*array)[50] = 5;
+                 t.expect(array->length() == 51);
+             }},
+            {"ZXArray(values, n)", goesOn,
+             [](Trial& t) {
+                 const int values[] = {3, 4, 5};
+                 std::optional<Ints> array;
+                 t.attempt([&] { array.emplace(values, 3); });
+                 t.expect(array && (counts(*array, 3, 3) || (t.failed() && array->length() == 0)));
+             }},
+            {"ZXArray(ZXArray)", goesOn,
+             [](Trial& t) {
+                 const Ints source = counted(40);
+                 std::optional<Ints> array;
+                 t.attempt([&] { array.emplace(source); });
+                 t.expect(array && counts(*array, 0, t.failed() ? 0 : 40));
+             }},
+            {"ZXArray = ZXArray", goesOn,
+             [](Trial& t) {
+                 const Ints source = counted(40);
+                 Ints array = counted(3);
+                 t.attempt([&] { array = source; });
+                 t.expect(counts(array, 0, t.failed() ? 0 : 40));
+                 array.add(0);
+                 t.expect(array.length() == (t.failed() ? 1 : 41));
+             }},
+            {"ZXArray add", endsAlloc,
+             [](Trial& t) {
+                 edited(
+                     t, [](Ints& a) { a.add(32); }, [](Ints& a) { return counts(a, 0, 33); });
+             }},
+            {"ZXArray add, an element of its own", endsAlloc,
+             [](Trial& t) {
+                 edited(
+                     t, [](Ints& a) { a.add(a[31]); },
+                     [](Ints& a) { return a.length() == 33 && a[32] == 31; });
+             }},
+            {"ZXArray[] beyond the end", endsAlloc,
+             [](Trial& t) {
+                 edited(
+                     t, [](Ints& a) { a[99] = 9; },
+                     [](Ints& a) { return a.length() == 100 && a[99] == 9; });
+             }},
+            {"ZXArray set beyond the end", endsAlloc,
+             [](Trial& t) {
+                 edited(
+                     t, [](Ints& a) { a.set(40, 9); },
+                     [](Ints& a) { return a.length() == 41 && a[40] == 9; });
+             }},
+            {"ZXArray ins", endsAlloc,
+             [](Trial& t) {
+                 edited(
+                     t, [](Ints& a) { a.ins(0, -1); }, [](Ints& a) { return counts(a, -1, 33); });
+             }},
+            {"ZXArray ins beyond the end", endsAlloc,
+             [](Trial& t) {
+                 edited(
+                     t, [](Ints& a) { a.ins(70, 9); },
+                     [](Ints& a) { return a.length() == 71 && a[70] == 9; });
+             }},
+            {"ZXArray reserve", endsAlloc,
+             [](Trial& t) {
+                 edited(
+                     t, [](Ints& a) { a.reserve(1000); },
+                     [](Ints& a) { return counts(a, 0, 32) && a.allocLength() >= 1000; });
+             }},
+            {"ZXArray setSize", goesOn,
+             [](Trial& t) {
+                 edited(
+                     t, [](Ints& a) { a.setSize(100); },
+                     [](Ints& a) { return a.length() == 100 && a[31] == 31; });
+             }},
+            {"ZXArray resize", goesOn,
+             [](Trial& t) {
+                 edited(
+                     t, [](Ints& a) { a.resize(100); },
+                     [](Ints& a) { return a.length() == 100 && a[31] == 31; });
+             }},
+            {"ZXArray resize downward", goesOn,
+             [](Trial& t) {
+                 edited(
+                     t, [](Ints& a) { a.resize(8); }, [](Ints& a) { return counts(a, 0, 8); });
+             }},
+            {"ZXArray setAllocSize", goesOn,
+             [](Trial& t) {
+                 edited(
+                     t, [](Ints& a) { a.setAllocSize(10); },
+                     [](Ints& a) { return counts(a, 0, 10); });
+             }},
+            {"ZXArray compact", goesOn,
+             [](Trial& t) {
+                 Ints array = counted(5);
+                 t.attempt([&] { array.compact(); });
+                 t.expect(counts(array, 0, 5) && array.allocLength() == (t.failed() ? 32 : 5));
+             }},
+            {"ZXArray setEmpty and growth", endsAlloc,
+             [](Trial& t) {
+                 edited(
+                     t,
+                     [](Ints& a) {
+                         a.setEmpty(7);
+                         a[40] = 1;
+                     },
+                     [](Ints& a) { return a.length() == 41 && a[39] == 7; });
+             }},
+            {"ZXArray<ZString> grown and copied", endsAlloc,
+             [](Trial& t) {
+                 ZXArray<ZString> texts;
+                 texts.add(ZString(L"a"));
+                 t.attempt([&] {
+                     texts.add(ZString(L"b"));
+                     texts[40] = L"c";
+                     const ZXArray<ZString> copy(texts);
+                     t.expect(copy.length() == 0 ? t.failed() : copy[40].isEqual(L"c"));
+                 });
+                 t.expect(texts.length() == 41 && texts[0].isEqual(L"a") && texts[1].isEqual(L"b"));
+             }},
+            {"ZXArray<ZList> copied", endsAlloc | throwsBad,
+             [](Trial& t) {
+                 ZXArray<ZList<double>> lists;
+                 lists.add(ZList<double>{1.0, 2.0});
+                 lists.add(ZList<double>{3.0});
+                 ZXArray<ZList<double>> copy;
+                 t.attempt([&] { copy = lists; });
+                 t.expect(copy.length() == 2 || (t.failed() && copy.length() == 0));
+                 for (int i = 0; i < copy.length(); ++i)
+                     t.expect(isRing(copy[i], copy[i].length()));
+                 t.expect(isRing(lists[0], 2) && isRing(lists[1], 1));
+             }},
+        },
+    };
+}
+
+Group listOperations() {
+    return {
+        "`ZList`, `ZSortList`, `DLList`, `QSort`",
+        {
+            {"ZList add", throwsBad,
+             [](Trial& t) {
+                 ZList<int> list{1, 2};
+                 t.attempt([&] { list.add(3); });
+                 t.expect(isRing(list, t.threw() ? 2 : 3));
+             }},
+            {"ZList insert", throwsBad,
+             [](Trial& t) {
+                 ZList<int> list{1, 2};
+                 t.attempt([&] { list.insert(0, 1); });
+                 t.expect(isRing(list, t.threw() ? 2 : 3));
+             }},
+            {"ZList{...}", throwsBad,
+             [](Trial& t) {
+                 std::optional<ZList<int>> list;
+                 t.attempt([&] { list.emplace({1, 2, 3}); });
+                 t.expectDone(list && isRing(*list, 3));
+             }},
+            {"ZList copied", throwsBad,
+             [](Trial& t) {
+                 const ZList<int> source{1, 2, 3};
+                 std::optional<ZList<int>> list;
+                 t.attempt([&] { list.emplace(source); });
+                 t.expectDone(list && isRing(*list, 3));
+             }},
+            {"ZList =", throwsBad,
+             [](Trial& t) {
+                 const ZList<int> source{1, 2, 3};
+                 ZList<int> list{4};
+                 t.attempt([&] { list = source; });
+                 t.expect(isRing(list, list.length()));
+                 t.expectDone(list == source);
+             }},
+            {"ZList<ZString> add", endsAlloc | throwsBad,
+             [](Trial& t) {
+                 ZList<ZString> list;
+                 const ZString text(L"abc");
+                 t.attempt([&] { list.add(text); });
+                 t.expect(isRing(list, t.threw() ? 0 : 1));
+             }},
+            {"ZList[] of an empty list", throwsBad,
+             [](Trial& t) {
+                 ZList<DPoint> list;
+                 t.attempt([&] { list[0] = DPoint(1.0, 2.0); });
+                 t.expect(isRing(list, 0));
+             }},
+            {"ZList move", throwsBad,
+             [](Trial& t) {
+                 ZList<int> list{1, 2, 3};
+                 t.attempt([&] { list.move(0, 2); });
+                 t.expect(isRing(list, t.threw() ? 2 : 3)); // taken out and not put back
+             }},
+            {"ZList joined, injected, removed, handed over", asksNothing,
+             [](Trial& t) {
+                 ZList<int> list{1, 2, 3};
+                 ZList<int> other{4};
+                 t.attempt([&] {
+                     list.join(other);
+                     other.inject(list, 0);
+                     list.join(other);
+                     list.remove(1);
+                     ZList<int> moved(std::move(list));
+                     list = std::move(moved);
+                 });
+                 t.expect(isRing(list, 3) && isRing(other, 0));
+             }},
+            {"ZSortList add", throwsBad,
+             [](Trial& t) {
+                 ZSortList<int> list;
+                 t.attempt([&] {
+                     for (const int value : {3, 1, 2})
+                         list.add(value);
+                 });
+                 t.expect(isRing(list, list.length()));
+                 t.expectDone(list.length() == 3 && list[0] == 1 && list[2] == 3);
+             }},
+            {"ZSortList copied", throwsBad,
+             [](Trial& t) {
+                 ZSortList<int> source;
+                 source.add(2);
+                 source.add(1);
+                 std::optional<ZSortList<int>> list;
+                 t.attempt([&] { list.emplace(source); });
+                 t.expectDone(list && isRing(*list, 2));
+             }},
+            {"ZSortList move", throwsBad,
+             [](Trial& t) {
+                 ZSortList<int> list;
+                 list.add(1);
+                 list.add(2);
+                 t.attempt([&] { list.move(0, 1); });
+                 t.expect(isRing(list, 1)); // the element is out, as it is with memory
+             }},
+            {"DLList insert, join, remove", asksNothing,
+             [](Trial& t) {
+                 class Node : public DLLNode {};
+                 DLList list;
+                 DLList other;
+                 DLLNode* const nodes[] = {new Node, new Node, new Node};
+                 DLLNode* removed = nullptr;
+                 t.attempt([&] {
+                     list.insert(*nodes[0]);
+                     list.insert(*nodes[1], 0);
+                     other.insert(*nodes[2]);
+                     list.join(other);
+                     removed = list.remove();
+                 });
+                 t.expect(list.length() == 2 && other.isEmpty() && removed == nodes[2]);
+                 delete removed;
+             }},
+            {"QSort of 2000", goesOn,
+             [](Trial& t) {
+                 std::vector<int> values;
+                 for (int i = 0; i < 2000; ++i)
+                     values.push_back(i * 7919 % 2003);
+                 ByValue byValue;
+                 t.attempt([&] { QSort::sort(values.data(), 2000, sizeof(int), byValue); });
+                 for (std::size_t i = 1; i < values.size(); ++i)
+                     t.expect(values[i - 1] <= values[i]);
+             }},
+        },
+    };
+}
+
+Group treeOperations() {
+    return {
+        "`ZGroup`",
+        {
+            {"ZGroup(n)", goesOn,
+             [](Trial& t) {
+                 Item item;
+                 std::optional<ZGroup> group;
+                 t.attempt([&] { group.emplace(5); });
+                 t.expect(group && group->addItem(&item) == 0 && group->size() == 1);
+             }},
+            {"ZGroup addItem", goesOn,
+             [](Trial& t) {
+                 Item items[2];
+                 ZGroup group(1);
+                 group.addItem(&items[0]);
+                 int status = 0;
+                 t.attempt([&] { status = group.addItem(&items[1]); });
+                 t.expect(status == (t.failed() ? -1 : 0) && group.size() == 2 + status);
+                 t.expect(group.addItem(&items[1]) == (t.failed() ? 0 : -1) && group.size() == 2);
+             }},
+            {"ZGroup getItemList", throwsBad,
+             [](Trial& t) {
+                 Item items[3];
+                 ZGroup group(3);
+                 for (Item& item : items)
+                     group.addItem(&item);
+                 long length = 3;
+                 t.attempt([&] { length = group.getItemList().length(); });
+                 t.expect(length == 3 && group.size() == 3);
+             }},
+            {"ZGroup traverse", throwsBad,
+             [](Trial& t) {
+                 Item item;
+                 ZGroup outer(1), middle(1), inner(1);
+                 outer.addItem(&middle);
+                 middle.addItem(&inner);
+                 inner.addItem(&item);
+                 static int visits;
+                 t.attempt([&] { outer.traverse([](ZGroupable*) { ++visits; }); });
+                 t.expectDone(visits == 1);
+                 t.expect(outer.size() == 1 && item.getPatriarch() == &outer);
+             }},
+            {"ZGroup removeItem, emptyGroup", asksNothing,
+             [](Trial& t) {
+                 Item items[2];
+                 ZGroup group(2);
+                 group.addItem(&items[0]);
+                 group.addItem(&items[1]);
+                 t.attempt([&] {
+                     group.removeItem(&items[0]);
+                     group.emptyGroup();
+                 });
+                 t.expect(group.size() == 0);
+             }},
+        },
+    };
+}

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "tests/memory/failingHeap.h"
+
+#include <new>
+#include <vector>
+
+/// The ways out of an operation that the headers state for want of memory, besides going on
+/// with valid objects.
+enum Way : unsigned {
+    goesOn = 0,
+    endsAlloc = 1,    ///< "failed alloc", status 1
+    endsScanner = 2,  ///< "1: No space for scanner!", status 1
+    endsSilent = 4,   ///< no message, status 0
+    throwsBad = 8,    ///< std::bad_alloc
+    asksNothing = 16, ///< never asks for memory
+    unstated = 32     ///< everything else, which is a fault
+};
+
+/// One run of an operation, which tells what is tried and what must hold then.
+class Trial {
+public:
+    Trial(long failsAt, failing::Mode mode) : failsAt_(failsAt), mode_(mode) {}
+
+    /// Does the work on the failing heap. What it throws for want of memory stops here.
+    template <class Work>
+    void attempt(Work work) {
+        failing::arm(failsAt_, mode_);
+        try {
+            work();
+        } catch (const std::bad_alloc&) {
+            threw_ = true;
+        }
+        failing::disarm();
+    }
+
+    bool threw() const {
+        return threw_;
+    }
+    bool failed() const {
+        return failing::refusals() > 0;
+    }
+
+    /// What must hold after the attempt, whatever came of it.
+    void expect(bool holds) {
+        holds_ = holds_ && holds;
+    }
+    /// What must hold unless it threw.
+    void expectDone(bool holds) {
+        expect(threw_ || holds);
+    }
+
+    bool holds() const {
+        return holds_;
+    }
+
+private:
+    long failsAt_;
+    failing::Mode mode_;
+    bool threw_ = false;
+    bool holds_ = true;
+};
+
+struct Operation {
+    const char* name;
+    unsigned ways;
+    void (*perform)(Trial& trial);
+};
+
+/// Operations of one kind of class, a row of the report.
+struct Group {
+    const char* title;
+    std::vector<Operation> operations;
+};
+
+Group stringOperations();
+Group encodedStringOperations();
+Group arrayOperations();
+Group blockOperations();
+Group listOperations();
+Group treeOperations();
+Group transformOperations();
+Group quantityOperations();
+Group scannerOperations();
+Group numberOperations();
+Group runtimeOperations();
