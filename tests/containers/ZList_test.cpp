@@ -321,6 +321,11 @@ static_assert(requires(Ints list) { list.insert(1, list.length()), list.insert(1
 
 struct Later; // a list of pointers needs no more
 
+struct alignas(64) Aligned {
+    double number;
+    bool operator==(const Aligned&) const = default;
+};
+
 template <class T>
 void exercise(T one, T two) {
     ZList<T> list{one, two};
@@ -337,6 +342,7 @@ TEST(ZList, HoldsEachElementType) {
     exercise<double>(1, 2);
     exercise<std::pair<int, unsigned char>>({1, 2}, {1, 3});
     exercise<std::pair<int, int>>({1, 2}, {2, 2});
+    exercise<Aligned>({1.0}, {2.0});
     int storage[2];
     exercise<Later*>(reinterpret_cast<Later*>(storage), reinterpret_cast<Later*>(storage + 1));
 }

@@ -228,6 +228,27 @@ TEST(ZXArray, AnElementSetToItselfKeepsItsContent) {
     EXPECT_EQ(lists.getEmpty().length(), 1);
 }
 
+struct Refusing { // plain bytes otherwise
+    static inline bool refuses = false;
+    int number = 0;
+    Refusing() {
+        if (refuses)
+            throw 1;
+    }
+    bool operator==(const Refusing&) const = default;
+};
+
+TEST(ZXArray, StaysAsItWasWhereAnElementRefusesToBeMade) {
+    ZXArray<Refusing> array;
+    array[3].number = 5;
+    Refusing::refuses = true;
+    EXPECT_THROW(array.setAllocSize(100000), int);
+    Refusing::refuses = false;
+    EXPECT_EQ(array[3].number, 5);
+    EXPECT_EQ(array.length(), 4);
+    EXPECT_EQ(array.allocLength(), 32);
+}
+
 TEST(ZXArray, CopiesTakeSpareSlotsAndBookkeeping) {
     Ints source(8, 4);
     source.setAll(3);

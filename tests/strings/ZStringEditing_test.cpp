@@ -133,6 +133,16 @@ TEST(ZString, ReplacesFromLeftToRightWithoutSearchingTheReplacement) {
     }
 }
 
+TEST(ZString, ReplacingLeavesSlotsThatWereGivenUpEmpty) {
+    ZString string(L"aXb");
+    string.truncate(20);
+    string.truncate(3);
+    string.findAndReplace(L"X", L"yy");
+    string.truncate(20);
+    for (int i = 4; i <= 20; ++i)
+        EXPECT_EQ(string[i], L'\0') << i;
+}
+
 TEST(ZString, SlicesByStartAndCount) {
     const struct {
         int start, count;

@@ -15,8 +15,12 @@ namespace zarnex::detail {
 /// more call for each node.
 template <class T>
 void freeNode(ZListNode<T>* node) {
-    node->~ZListNode<T>();
-    ::operator delete(node);
+    if constexpr (alignof(ZListNode<T>) > __STDCPP_DEFAULT_NEW_ALIGNMENT__) {
+        delete node;
+    } else {
+        node->~ZListNode<T>();
+        ::operator delete(node);
+    }
 }
 
 } // namespace zarnex::detail

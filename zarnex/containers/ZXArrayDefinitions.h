@@ -18,8 +18,9 @@ namespace zarnex::detail {
 
 /// Whether arrays move elements as plain bytes, in a block of the C library's heap.
 template <class T>
-inline constexpr bool movesAsBytes = std::is_trivially_copyable_v<T> &&
-                                     alignof(T) <= alignof(std::max_align_t);
+inline constexpr bool
+    movesAsBytes = std::is_trivially_copyable_v<T>&& std::is_nothrow_default_constructible_v<T> &&
+                   alignof(T) <= alignof(std::max_align_t);
 
 template <class T>
 void release(T* storage) {

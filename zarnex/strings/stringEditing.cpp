@@ -43,9 +43,8 @@ void ZString::findAndReplace(const wchar_t* find, const wchar_t* replace) {
         done = found + skipped;
     }
     *std::copy(done, end, out) = L'\0';
-    const int slots = static_cast<int>(length + 1);
-    result.setSize((std::max)(slots, array_.length()));
-    result.setSize(slots); // clears those that are given up
+    result.setSize(result.allocLength());
+    result.setSize(static_cast<int>(length + 1)); // clears the spare slots
     array_.swap(result);
 }
 

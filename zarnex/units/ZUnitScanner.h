@@ -41,7 +41,7 @@ class UnitEngine;
 class ZARNEX_API ZUnitScanner {
 public:
     /// Takes the lock and begins at the start of `text`, which is not copied and
-    /// must outlive the scanner; null is the empty text. Without memory for its
+    /// must outlive the scanner unchanged; null is the empty text. Without memory for its
     /// buffers the process ends with status 1 ("No space for scanner!").
     explicit ZUnitScanner(const wchar_t* text);
 
