@@ -79,7 +79,10 @@ void Suite::note(const Row& row) {
     notes_ += "- *" + row.name() + "*: " + row.what() + "\n";
     if (row.isBeyond())
         notes_ += "  **Beyond its limit**: " +
-                  (row.whyText().empty() ? "not explained yet." : row.whyText()) + "\n";
+                  (!row.whyText().empty()              ? row.whyText()
+                   : peer->median < 1.06 * peer->limit ? "by a few percent, not explained."
+                                                       : "not explained.") +
+                  "\n";
 }
 
 void Suite::finish() {
