@@ -2,8 +2,8 @@
 
 #include <zarnex/foundation.h>
 
-#include <cstdio>
 #include <cstddef>
+#include <cstdio>
 #include <utility>
 
 namespace {
