@@ -58,3 +58,13 @@ the formulas are symmetric.
 
 END
 build/linux/bin/trial-exactness
+cat <<'END'
+
+Where a result is wrong, the fixed formulas in doubles and their absolute bounds are the reason,
+as the headers say: the trial fails if a sign is wrong though the determinant exceeds its own
+rounding, if a crossing is off by more than twelve roundings of its terms, or if
+`isContainedIntersect` errs though the crossing lies further than that from every end. In
+detail: `Are3PointsCCW` normalizes both steps, so that it errs elsewhere than the bare product; `isCCWSTDListDPoint`
+judges an outline within 3.16e-5 as a whole by the turn from the wrong neighbour; `intersect`
+takes a determinant below 1e-14 as parallel, however short the segments are.
+END
