@@ -12,6 +12,7 @@ trust_parts=(
     "platforms:The same bytes on both platforms"
     "memory:No memory"
     "geometry:Degenerate geometry"
+    "analysis:Static analysis and hardening"
 )
 
 trust_page=docs/reliability.md
@@ -63,6 +64,7 @@ run_trials() {
         say "" "=== $part ==="
         start=$SECONDS status=0
         # In the background, because the shell would not stop at a failure inside of an `if`.
+        # shellcheck source=/dev/null
         (source "trust/$part.sh") >"build/trust/$part.new" </dev/null &
         wait $! || status=$?
         if ((status == 0)); then
