@@ -11,6 +11,10 @@ trust_parts=(
     "locales:Locales"
     "platforms:The same bytes on both platforms"
     "memory:No memory"
+    "threads:Threads"
+    "boundary:The boundary of the shared library"
+    "headers:Headers"
+    "abi:Binary compatibility"
 )
 
 trust_page=docs/reliability.md
