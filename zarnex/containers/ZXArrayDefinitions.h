@@ -34,18 +34,18 @@ void release(T* storage) {
 /// and default-constructed ones. Null, with `storage` as it was, if there is no memory.
 template <class T>
 T* resized(T* storage, int kept, int count) {
-    const auto slots = static_cast<std::size_t>(count);
+    const auto room = static_cast<std::size_t>(count);
     kept = (std::min)(kept, count);
     if constexpr (movesAsBytes<T>) {
         // The heap can often enlarge a block where it stands.
-        const std::size_t bytes = slots * sizeof(T);
+        const std::size_t bytes = room * sizeof(T);
         T* const moved =
             static_cast<T*>(storage == nullptr ? std::malloc(bytes) : std::realloc(storage, bytes));
         for (int i = kept; moved != nullptr && i < count; ++i)
             ::new (static_cast<void*>(moved + i)) T;
         return moved;
     } else {
-        T* const fresh = new (std::nothrow) T[slots];
+        T* const fresh = new (std::nothrow) T[room];
         if (fresh != nullptr) {
             std::move(storage, storage + kept, fresh);
             release(storage);
