@@ -66,9 +66,11 @@ alter 'a virtual slot moved' breaks '+ QSort::Callback: slot 2 int compare' cont
     '/virtual ~Callback();/d; /class ZARNEX_API Callback {/{n;s/$/\n        virtual ~Callback();/}'
 alter 'a virtual function added' breaks '+ ZGroupable: slot 3 int isItem' containers/ZGroupable.h \
     's/    virtual int isGroup();/&\n    virtual int isItem() { return 1; }/'
-alter 'a function removed' breaks '- returns int isExiting()' \
-    'runtime/exiting.h runtime/exiting.cpp' 's/\bisExiting\b/isLeaving/'
-alter 'the result of a function changed' breaks '+ returns long int isExiting()' \
-    'runtime/exiting.h runtime/exiting.cpp' 's/\bint isExiting\b/long isExiting/'
-alter 'a function added, which breaks nothing' adds '+ returns int isLeaving()' \
-    runtime/exiting.cpp 's/^int isExiting() {/ZARNEX_API int isLeaving();\nint isLeaving() { return 0; }\n&/'
+centre='geometry/circleCentre.h geometry/circleCentre.cpp'
+signature='(DPoint*, DPoint const&, DPoint const&, DPoint const&)'
+alter 'a function removed' breaks "- returns int LUcomputeCentre$signature" "$centre" \
+    's/\bLUcomputeCentre\b/LUcomputeMiddle/'
+alter 'the result of a function changed' breaks "+ returns long int LUcomputeCentre$signature" \
+    "$centre" 's/\bint LUcomputeCentre\b/long LUcomputeCentre/'
+alter 'a function added, which breaks nothing' adds '+ returns int computeMiddle()' \
+    geometry/circleCentre.cpp '$s/$/\nZARNEX_API int computeMiddle();\nint computeMiddle() { return 0; }/'

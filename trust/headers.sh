@@ -40,12 +40,17 @@ need qt6-base-dev libx11-dev >&2 || fail "No headers of Qt and X11: $reason"
 rm -rf "$work"
 mkdir -p "$work/units"
 
-headers=()
+headers=() standard_includes=()
 while read -r header; do
     headers+=("$header")
 done < <({ sed -n 's/^#include <\(.*\)>/\1/p' zarnex/foundation.h; say zarnex/foundation.h; })
 
-hostile=('#include <windows.h>' '#include <rpc.h>' '#undef min' '#undef max'
+# The standard headers need not survive these macros.
+while read -r line; do
+    standard_includes+=("$line")
+done < <(sed -n 's/^\(#include <[a-z_]*>\).*/\1/p' "${headers[@]}" | sort -u)
+windows=('#include <windows.h>' '#include <rpc.h>')
+macros=('#undef min' '#undef max'
     '#define min(a, b) ((a) < (b) ? (a) : (b))' '#define max(a, b) ((a) > (b) ? (a) : (b))')
 for header in "${headers[@]}"; do
     name=${header//[\/.]/_}
@@ -55,8 +60,8 @@ for header in "${headers[@]}"; do
         later alone g++ "-std=c++$standard" "$alone"
         later alone clang++-14 "-std=c++$standard" "$alone"
     done
-    later windows $mingw -std=c++17 "$(unit "$name-last" "${hostile[@]}" "$line")"
-    later windows $mingw -std=c++17 "$(unit "$name-first" "$line" "${hostile[@]::2}")"
+    later windows $mingw -std=c++17 "$(unit "$name-last" "${standard_includes[@]}" "${windows[@]}" "${macros[@]}" "$line")"
+    later windows $mingw -std=c++17 "$(unit "$name-first" "$line" "${windows[@]}")"
 done
 
 qt=$(find /usr/include /usr/local/include -path '*/QtCore/QtCore' 2>/dev/null | head -n 1)
