@@ -48,7 +48,7 @@ judge || fail "The library is not what $list says: $(<"$work/verdict")"
 
 cat <<END
 What hosts are compiled to rely on stands in a list of $(grep -c ' bytes$' $list) classes: $(grep -c ': at ' $list) members
-with places and types, $(grep -c ': slot ' $list) virtual slots, and $(grep -c '^returns' $list) functions with their results. A
+with places and types, $(grep -c ': slot ' $list) virtual slots, and $(grep -c ': returns ' $list) functions with their results. A
 test refuses a library that differs, and the list takes no break without a new major version.
 The library as it is agrees with it; these altered ones were found out:
 
@@ -68,9 +68,9 @@ alter 'a virtual function added' breaks '+ ZGroupable: slot 3 int isItem' contai
     's/    virtual int isGroup();/&\n    virtual int isItem() { return 1; }/'
 centre='geometry/circleCentre.h geometry/circleCentre.cpp'
 signature='(DPoint*, DPoint const&, DPoint const&, DPoint const&)'
-alter 'a function removed' breaks "- returns int LUcomputeCentre$signature" "$centre" \
+alter 'a function removed' breaks "- LUcomputeCentre$signature: returns int" "$centre" \
     's/\bLUcomputeCentre\b/LUcomputeMiddle/'
-alter 'the result of a function changed' breaks "+ returns long int LUcomputeCentre$signature" \
+alter 'the result of a function changed' breaks "+ LUcomputeCentre$signature: returns long int" \
     "$centre" 's/\bint LUcomputeCentre\b/long LUcomputeCentre/'
-alter 'a function added, which breaks nothing' adds '+ returns int computeMiddle()' \
+alter 'a function added, which breaks nothing' adds '+ computeMiddle(): returns int' \
     geometry/circleCentre.cpp '$s/$/\nZARNEX_API int computeMiddle();\nint computeMiddle() { return 0; }/'

@@ -2,6 +2,10 @@
 
 work=$PWD/build/trust/boundary
 root=$PWD
+declare -A libraries=(
+    [linux]=build/linux/lib/libzarnex-foundation.so
+    [windows]=build/windows/lib/libzarnex-foundation.dll.a
+)
 
 # host PRESET NAME COMPILER FLAGS SOURCE...: a host program in $work/PRESET.
 host() {
@@ -9,9 +13,9 @@ host() {
     shift 4
     local link=()
     if [[ $preset == windows ]]; then
-        link=(-static -Lbuild/windows/lib -Lbuild/windows/bin)
+        link=(-static)
     else
-        link=(-Lbuild/linux/lib "-Wl,-rpath,$root/build/linux/lib" -ldl)
+        link=("-Wl,-rpath,$root/build/linux/lib" -ldl)
     fi
     # shellcheck disable=SC2086 # a word a flag
     "$compiler" $flags -Wall -Wextra -I. "-Ibuild/$preset/tests/abi" "$@" \
@@ -31,7 +35,7 @@ run() {
 
 # hosts PRESET NAME COMPILER FLAGS: all hosts of one compiler and level; a row of the table.
 hosts() {
-    local preset=$1 name=$2 compiler=$3 flags=$4 names arrays stages
+    local preset=$1 name=$2 compiler=$3 flags=$4 library=${libraries[$1]} names arrays stages
     host "$preset" "names-$name.exe" "$compiler" "$flags -std=c++20 -fno-access-control" \
         tests/abi/allNames.cpp
     host "$preset" "linkage-$name.exe" "$compiler" "$flags -std=c++17" tests/abi/linkage.cpp
@@ -39,9 +43,9 @@ hosts() {
         tests/boundary/lifetime.cpp
     host "$preset" "linked-$name.exe" "$compiler" "$flags -std=c++17 -DHOST_IS_LINKED" \
         tests/boundary/main.cpp tests/boundary/module.cpp
-    local library=""
+    library=""
     host "$preset" "loading-$name.exe" "$compiler" "$flags -std=c++17" tests/boundary/main.cpp
-    library=-lzarnex-foundation
+    library=${libraries[$preset]}
     host "$preset" "module-$name.dll" "$compiler" \
         "$flags -std=c++17 -shared -fvisibility=hidden$([[ $preset == windows ]] || echo ' -fPIC')" \
         tests/boundary/module.cpp
@@ -84,7 +88,6 @@ exported=$(NM=nm CXXFILT=c++filt bash tests/abi/exports.sh names build/linux/lib
 needed=$(x86_64-w64-mingw32-objdump -p build/windows/bin/zarnex-foundation.dll |
     sed -n 's/^[[:space:]]*DLL Name: //p' | sort -f | paste -sd ' ')
 
-library=-lzarnex-foundation
 cat <<END
 The names that both libraries export are the same, $exported on Linux, none of the inside among them. The
 DLL imports from $needed alone.

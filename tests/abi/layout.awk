@@ -5,7 +5,7 @@
 #   CLASS: base BASE at 0
 #   CLASS: at 8 double value_
 #   CLASS: slot 2 int isValid
-#   returns double MANGLED
+#   MANGLED: returns double
 #
 # Of the classes and functions of containers those for int stand for all, which come of the same
 # templates. Where a function has parameters, its mangled name tells.
@@ -97,7 +97,7 @@ NR != FNR && /<return / {
     if (slot != "" && shown)
         print class ": slot " slot " " (slot < 0 ? "" : result " ") function_
     if (exported && result != "void" && (depth == 0 || shown))
-        print "returns " result " " mangled
+        print mangled ": returns " result
 }
 /<\/member-function/ { slot = "" }
 

@@ -29,19 +29,17 @@ list() {
 # nothing.
 changes() {
     awk '
+        function owner(line) { return substr(line, 1, index(line, ": ") - 1) }
         /^version / { next }
         FNR == NR {
             before[$0] = 1
-            if (/: [0-9]+ bytes$/)
-                classes[substr($0, 1, match($0, /: [0-9]+ bytes$/) - 1)] = 1
+            known[owner($0)] = 1
             next
         }
         {
             now[$0] = 1
-            class = $0
-            sub(/: .*/, "", class)
             if (!($0 in before))
-                print (class in classes ? "breaks: + " : "adds: + ") $0
+                print (owner($0) in known ? "breaks: + " : "adds: + ") $0
         }
         END {
             for (line in before)
