@@ -46,7 +46,7 @@ T* resized(T* storage, int kept, int count) {
         return moved;
     } else {
         T* const fresh = new (std::nothrow) T[room];
-        if (fresh != nullptr) {
+        if (fresh != nullptr && storage != nullptr) { // or compilers warn of moving from null
             std::move(storage, storage + kept, fresh);
             release(storage);
         }
