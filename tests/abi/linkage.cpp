@@ -87,8 +87,9 @@ int use(const ZList<T>& given) {
     list.forEach(count, &seen);
     for (auto at = list.rbegin(); at != list.rend(); ++at)
         ++seen;
-    for (const T& element : static_cast<const ZList<T>&>(list))
-        seen += &element != nullptr;
+    const ZList<T>& constant = list;
+    for (auto at = constant.begin(); at != constant.end(); ++at)
+        ++seen;
     int left = 2;
     faults += seen != 12 || list.firstThat(isLast, &left) != &list[1];
 
