@@ -87,11 +87,11 @@ clang 14 and mingw-w64.
 
 | | compilations | failed |
 |---|---|---|
-$(row 'each header alone, first and twice; two compilers; C++17, 20, 23' alone)
-$(row 'each after \`<windows.h>\` and \`<rpc.h>\` with the macros \`min\` and \`max\`, and before them' windows)
-$(row 'all beside QtCore and QtGui, before and after' qt)
-$(row 'all beside X11, before and after' x11)
 END
+row 'each header alone, first and twice; two compilers; C++17, 20, 23' alone
+row 'each after `<windows.h>` and `<rpc.h>` with the macros `min` and `max`, and before them' windows
+row 'all beside QtCore and QtGui, before and after' qt
+row 'all beside X11, before and after' x11
 ! grep -q ' failed$' "$work/results" || fail "Headers do not compile"
 
 # Every exported name that takes wide text is another name in a host with the other wchar_t.
