@@ -88,14 +88,20 @@ public:
         return text.substr(0, text.find('\0'));
     }
 
-    /// Wide text: bytes up to 0x7f stand for themselves, others for what tends to be odd.
+    /// Wide text, out of few characters that mean something to text and paths, or of any
+    /// bytes: those from 0x80 on stand for what tends to be odd.
     std::wstring wide(int most) {
+        static const wchar_t few[] = L"aAbBaAbB \t\r\n./\\:-0xyz%";
         static const wchar_t odd[] = {0xdf,  0xe9,   0xff,   0x100,  0x130,  0x131,  0x1c5,  0x2009,
                                       0x3c2, 0x212a, 0x20ac, 0xd800, 0xdfff, 0xfeff, 0xffff, 0x7f};
+        const bool takesFew = choice(4) != 0;
         std::wstring wide;
         for (const char unit : text(most)) {
             const unsigned value = static_cast<unsigned char>(unit);
-            wide += value < 0x80 ? static_cast<wchar_t>(value) : odd[value % std::size(odd)];
+            if (takesFew)
+                wide += few[value % (std::size(few) - 1)];
+            else
+                wide += value < 0x80 ? static_cast<wchar_t>(value) : odd[value % std::size(odd)];
         }
         return wide;
     }
