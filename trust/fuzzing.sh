@@ -1,4 +1,4 @@
-# Any input, for some seconds a target.
+# Any input, for ZARNEX_FUZZ_SECONDS seconds a target.
 
 seconds=${ZARNEX_FUZZ_SECONDS:-20}
 work=build/trust/fuzzing
@@ -16,8 +16,8 @@ cat <<'END'
 Every target ran under libFuzzer, AddressSanitizer and UndefinedBehaviorSanitizer, from the
 inputs that are checked in. A target takes any bytes for a sequence of operations or a text, and
 most compare all results with those of a plain model; `fuzz/` says of each what it tries. A fault
-is a result that differs, an error that a sanitizer finds, or more than 5 seconds. No target
-found one.
+is a result that differs, an error that a sanitizer finds, or an input that takes more than 5
+seconds. No target found one.
 
 | target | executions | seconds | executions a second | edges covered |
 |---|---|---|---|---|
