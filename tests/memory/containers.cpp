@@ -29,14 +29,16 @@ Ints counted(int length) {
 
 /// `edit` either does all of its work on a full array of 32 or leaves it as it was.
 template <class Edit, class Done>
-void edited(Trial& trial, Edit edit, Done isDone) {
-    Ints array = counted(32);
-    trial.attempt([&] { edit(array); });
-    const bool unchanged = counts(array, 0, 32);
-    trial.expect(isDone(array) || (trial.failed() && unchanged));
-    const int before = array.length();
-    array.add(7);
-    trial.expect(array.length() == before + 1 && array[before] == 7);
+auto edited(Edit edit, Done isDone) {
+    return [edit, isDone](Trial& trial) {
+        Ints array = counted(32);
+        trial.attempt([&] { edit(array); });
+        const bool unchanged = counts(array, 0, 32);
+        trial.expect(isDone(array) || (trial.failed() && unchanged));
+        const int before = array.length();
+        array.add(7);
+        trial.expect(array.length() == before + 1 && array[before] == 7);
+    };
 }
 
 /// A list whose ring runs through `length` elements in both directions.
@@ -97,68 +99,34 @@ Group arrayOperations() {
                  t.expect(array.length() == (t.failed() ? 1 : 41));
              }},
             {"ZXArray add", endsAlloc,
-             [](Trial& t) {
-                 edited(
-                     t, [](Ints& a) { a.add(32); }, [](Ints& a) { return counts(a, 0, 33); });
-             }},
+             edited([](Ints& a) { a.add(32); }, [](Ints& a) { return counts(a, 0, 33); })},
             {"ZXArray add, an element of its own", endsAlloc,
-             [](Trial& t) {
-                 edited(
-                     t, [](Ints& a) { a.add(a[31]); },
-                     [](Ints& a) { return a.length() == 33 && a[32] == 31; });
-             }},
+             edited([](Ints& a) { a.add(a[31]); },
+                    [](Ints& a) { return a.length() == 33 && a[32] == 31; })},
             {"ZXArray[] beyond the end", endsAlloc,
-             [](Trial& t) {
-                 edited(
-                     t, [](Ints& a) { a[99] = 9; },
-                     [](Ints& a) { return a.length() == 100 && a[99] == 9; });
-             }},
+             edited([](Ints& a) { a[99] = 9; },
+                    [](Ints& a) { return a.length() == 100 && a[99] == 9; })},
             {"ZXArray set beyond the end", endsAlloc,
-             [](Trial& t) {
-                 edited(
-                     t, [](Ints& a) { a.set(40, 9); },
-                     [](Ints& a) { return a.length() == 41 && a[40] == 9; });
-             }},
+             edited([](Ints& a) { a.set(40, 9); },
+                    [](Ints& a) { return a.length() == 41 && a[40] == 9; })},
             {"ZXArray ins", endsAlloc,
-             [](Trial& t) {
-                 edited(
-                     t, [](Ints& a) { a.ins(0, -1); }, [](Ints& a) { return counts(a, -1, 33); });
-             }},
+             edited([](Ints& a) { a.ins(0, -1); }, [](Ints& a) { return counts(a, -1, 33); })},
             {"ZXArray ins beyond the end", endsAlloc,
-             [](Trial& t) {
-                 edited(
-                     t, [](Ints& a) { a.ins(70, 9); },
-                     [](Ints& a) { return a.length() == 71 && a[70] == 9; });
-             }},
+             edited([](Ints& a) { a.ins(70, 9); },
+                    [](Ints& a) { return a.length() == 71 && a[70] == 9; })},
             {"ZXArray reserve", endsAlloc,
-             [](Trial& t) {
-                 edited(
-                     t, [](Ints& a) { a.reserve(1000); },
-                     [](Ints& a) { return counts(a, 0, 32) && a.allocLength() >= 1000; });
-             }},
+             edited([](Ints& a) { a.reserve(1000); },
+                    [](Ints& a) { return counts(a, 0, 32) && a.allocLength() >= 1000; })},
             {"ZXArray setSize", goesOn,
-             [](Trial& t) {
-                 edited(
-                     t, [](Ints& a) { a.setSize(100); },
-                     [](Ints& a) { return a.length() == 100 && a[31] == 31; });
-             }},
+             edited([](Ints& a) { a.setSize(100); },
+                    [](Ints& a) { return a.length() == 100 && a[31] == 31; })},
             {"ZXArray resize", goesOn,
-             [](Trial& t) {
-                 edited(
-                     t, [](Ints& a) { a.resize(100); },
-                     [](Ints& a) { return a.length() == 100 && a[31] == 31; });
-             }},
+             edited([](Ints& a) { a.resize(100); },
+                    [](Ints& a) { return a.length() == 100 && a[31] == 31; })},
             {"ZXArray resize downward", goesOn,
-             [](Trial& t) {
-                 edited(
-                     t, [](Ints& a) { a.resize(8); }, [](Ints& a) { return counts(a, 0, 8); });
-             }},
+             edited([](Ints& a) { a.resize(8); }, [](Ints& a) { return counts(a, 0, 8); })},
             {"ZXArray setAllocSize", goesOn,
-             [](Trial& t) {
-                 edited(
-                     t, [](Ints& a) { a.setAllocSize(10); },
-                     [](Ints& a) { return counts(a, 0, 10); });
-             }},
+             edited([](Ints& a) { a.setAllocSize(10); }, [](Ints& a) { return counts(a, 0, 10); })},
             {"ZXArray compact", goesOn,
              [](Trial& t) {
                  Ints array = counted(5);
@@ -166,15 +134,12 @@ Group arrayOperations() {
                  t.expect(counts(array, 0, 5) && array.allocLength() == (t.failed() ? 32 : 5));
              }},
             {"ZXArray setEmpty and growth", endsAlloc,
-             [](Trial& t) {
-                 edited(
-                     t,
-                     [](Ints& a) {
-                         a.setEmpty(7);
-                         a[40] = 1;
-                     },
-                     [](Ints& a) { return a.length() == 41 && a[39] == 7; });
-             }},
+             edited(
+                 [](Ints& a) {
+                     a.setEmpty(7);
+                     a[40] = 1;
+                 },
+                 [](Ints& a) { return a.length() == 41 && a[39] == 7; })},
             {"ZXArray<ZString> grown and copied", endsAlloc,
              [](Trial& t) {
                  ZXArray<ZString> texts;

@@ -2,6 +2,7 @@
 
 #include "tests/memory/failingHeap.h"
 
+#include <functional>
 #include <new>
 #include <vector>
 
@@ -64,7 +65,7 @@ private:
 struct Operation {
     const char* name;
     unsigned ways;
-    void (*perform)(Trial& trial);
+    std::function<void(Trial& trial)> perform;
 };
 
 /// Operations of one kind of class, a row of the report.

@@ -8,6 +8,7 @@
 #include <cwchar>
 #include <optional>
 #include <string>
+#include <type_traits>
 
 namespace {
 
@@ -23,28 +24,36 @@ bool holds(const ZMultiByteString& text, const char* bytes) {
     return std::strcmp(static_cast<const char*>(text), bytes) == 0;
 }
 
+template <class String>
+using TextOf =
+    std::conditional_t<std::is_same_v<String, ZMultiByteString>, std::string, std::wstring>;
+
+/// Whether `text` holds `expected` and can grow.
+template <class String>
+bool isWhole(String& text, const TextOf<String>& expected) {
+    const bool same = holds(text, expected.c_str());
+    text += expected.c_str();
+    return same && static_cast<std::size_t>(text.length()) == 2 * expected.size();
+}
+
 /// A string that `make` makes on the failing heap holds `expected` and can grow.
-template <class String, class Make, class Unit>
-void made(Trial& trial, Make make, const Unit* expected) {
-    std::optional<String> text;
-    trial.attempt([&] { text.emplace(make()); });
-    trial.expectDone(text && holds(*text, expected));
-    if (text) {
-        *text += expected;
-        trial.expect(static_cast<std::size_t>(text->length()) ==
-                     2 * std::basic_string<Unit>(expected).size());
-    }
+template <class String, class Make>
+auto made(Make make, TextOf<String> expected) {
+    return [make, expected](Trial& trial) {
+        std::optional<String> text;
+        trial.attempt([&] { text.emplace(make()); });
+        trial.expectDone(text && isWhole(*text, expected));
+    };
 }
 
 /// A string that `edit` edits on the failing heap holds `expected` and can grow.
-template <class String, class Edit, class Unit>
-void edited(Trial& trial, const Unit* begin, Edit edit, const Unit* expected) {
-    String text(begin);
-    trial.attempt([&] { edit(text); });
-    trial.expect(holds(text, expected));
-    text += expected;
-    trial.expect(static_cast<std::size_t>(text.length()) ==
-                 2 * std::basic_string<Unit>(expected).size());
+template <class String, class Edit>
+auto edited(TextOf<String> begin, TextOf<String> expected, Edit edit) {
+    return [begin, edit, expected](Trial& trial) {
+        String text(begin.c_str());
+        trial.attempt([&] { edit(text); });
+        trial.expect(isWhole(text, expected));
+    };
 }
 
 } // namespace
@@ -54,107 +63,42 @@ Group stringOperations() {
     return {
         "`ZString`",
         {
-            {"ZString(n, step)", endsAlloc,
-             [](Trial& t) {
-                 made<S>(
-                     t, [] { return S(40, 8); }, L"");
-             }},
-            {"ZString(wide)", endsAlloc,
-             [](Trial& t) {
-                 made<S>(
-                     t, [] { return S(L"abc"); }, L"abc");
-             }},
-            {"ZString(wide, n)", endsAlloc,
-             [](Trial& t) {
-                 made<S>(
-                     t, [] { return S(longText.c_str(), 3); }, L"www");
-             }},
-            {"ZString(long)", endsAlloc,
-             [](Trial& t) {
-                 made<S>(
-                     t, [] { return S(longText.c_str()); }, longText.c_str());
-             }},
-            {"ZString(narrow)", endsAlloc,
-             [](Trial& t) {
-                 made<S>(
-                     t, [] { return S("abc"); }, L"abc");
-             }},
+            {"ZString(n, step)", endsAlloc, made<S>([] { return S(40, 8); }, L"")},
+            {"ZString(wide)", endsAlloc, made<S>([] { return S(L"abc"); }, L"abc")},
+            {"ZString(wide, n)", endsAlloc, made<S>([] { return S(longText.c_str(), 3); }, L"www")},
+            {"ZString(long)", endsAlloc, made<S>([] { return S(longText.c_str()); }, longText)},
+            {"ZString(narrow)", endsAlloc, made<S>([] { return S("abc"); }, L"abc")},
             {"ZString(long narrow)", endsAlloc,
-             [](Trial& t) {
-                 made<S>(
-                     t, [] { return S(longBytes.c_str()); }, std::wstring(600, L'n').c_str());
-             }},
+             made<S>([] { return S(longBytes.c_str()); }, std::wstring(600, L'n'))},
             {"ZString(narrow, n)", endsAlloc,
-             [](Trial& t) {
-                 made<S>(
-                     t, [] { return S(longBytes.c_str(), 3); }, L"nnn");
-             }},
+             made<S>([] { return S(longBytes.c_str(), 3); }, L"nnn")},
             {"ZString(ZString)", endsAlloc,
-             [](Trial& t) {
-                 const S source(L"abc");
-                 made<S>(
-                     t, [&] { return S(source); }, L"abc");
-             }},
+             made<S>([source = S(L"abc")] { return S(source); }, L"abc")},
             {"ZString = ZString", endsAlloc,
-             [](Trial& t) {
-                 const S source(longText.c_str());
-                 edited<S>(
-                     t, L"abc", [&](S& s) { s = source; }, longText.c_str());
-             }},
+             edited<S>(L"abc", longText, [source = S(longText.c_str())](S& s) { s = source; })},
             {"ZString = wide", endsAlloc,
-             [](Trial& t) {
-                 edited<S>(
-                     t, L"abc", [](S& s) { s = longText.c_str(); }, longText.c_str());
-             }},
+             edited<S>(L"abc", longText, [](S& s) { s = longText.c_str(); })},
             {"ZString = narrow", endsAlloc,
-             [](Trial& t) {
-                 edited<S>(
-                     t, L"", [](S& s) { s = longBytes.c_str(); }, std::wstring(600, L'n').c_str());
-             }},
+             edited<S>(L"", std::wstring(600, L'n'), [](S& s) { s = longBytes.c_str(); })},
             {"ZString += ZString", endsAlloc,
-             [](Trial& t) {
-                 const S more(longText.c_str());
-                 edited<S>(
-                     t, L"", [&](S& s) { s += more; }, longText.c_str());
-             }},
+             edited<S>(L"", longText, [more = S(longText.c_str())](S& s) { s += more; })},
             {"ZString += itself", endsAlloc,
-             [](Trial& t) {
-                 edited<S>(
-                     t, std::wstring(300, L'w').c_str(), [](S& s) { s += s; }, longText.c_str());
-             }},
+             edited<S>(std::wstring(300, L'w'), longText, [](S& s) { s += s; })},
             {"ZString += wide", endsAlloc,
-             [](Trial& t) {
-                 edited<S>(
-                     t, L"", [](S& s) { s += longText.c_str(); }, longText.c_str());
-             }},
+             edited<S>(L"", longText, [](S& s) { s += longText.c_str(); })},
             {"ZString += units", endsAlloc,
-             [](Trial& t) {
-                 edited<S>(
-                     t, L"",
-                     [](S& s) {
-                         for (int i = 0; i < 600; ++i)
-                             s += L'w';
-                     },
-                     longText.c_str());
-             }},
+             edited<S>(L"", longText,
+                       [](S& s) {
+                           for (int i = 0; i < 600; ++i)
+                               s += L'w';
+                       })},
             {"ZString += int", endsAlloc,
-             [](Trial& t) {
-                 edited<S>(
-                     t, L"a length of thirty characters ", [](S& s) { s += 1234567890; },
-                     L"a length of thirty characters 1234567890");
-             }},
+             edited<S>(L"a length of thirty characters ",
+                       L"a length of thirty characters 1234567890", [](S& s) { s += 1234567890; })},
             {"ZString + wide + int", endsAlloc,
-             [](Trial& t) {
-                 const S left(L"a");
-                 made<S>(
-                     t, [&] { return left + L"b" + 12; }, L"ab12");
-             }},
+             made<S>([left = S(L"a")] { return left + L"b" + 12; }, L"ab12")},
             {"wide + ZString", endsAlloc,
-             [](Trial& t) {
-                 const S right(L"b");
-                 made<S>(
-                     t, [&] { return L"a" + right; }, L"ab");
-             }},
+             made<S>([right = S(L"b")] { return L"a" + right; }, L"ab")},
             {"ZString[] beyond the end", endsAlloc,
              [](Trial& t) {
                  S text(L"abc");
@@ -177,27 +121,16 @@ Group stringOperations() {
                  t.expect(holds(text, std::wstring(200, L'w').c_str()));
              }},
             {"ZString truncate and resize upward", endsAlloc,
-             [](Trial& t) {
-                 edited<S>(
-                     t, L"abc",
-                     [](S& s) {
-                         s.truncate(100);
-                         s.resize(300);
-                     },
-                     L"abc");
-             }},
+             edited<S>(L"abc", L"abc",
+                       [](S& s) {
+                           s.truncate(100);
+                           s.resize(300);
+                       })},
             {"ZString findAndReplace", endsAlloc,
-             [](Trial& t) {
-                 edited<S>(
-                     t, std::wstring(200, L'-').c_str(),
-                     [](S& s) { s.findAndReplace(L"-", L"www"); }, longText.c_str());
-             }},
+             edited<S>(std::wstring(200, L'-'), longText,
+                       [](S& s) { s.findAndReplace(L"-", L"www"); })},
             {"ZString subString", endsAlloc,
-             [](Trial& t) {
-                 const S text(longText.c_str());
-                 made<S>(
-                     t, [&] { return text.subString(10, 3); }, L"www");
-             }},
+             made<S>([text = S(longText.c_str())] { return text.subString(10, 3); }, L"www")},
             {"ZString trims, case, empty", endsAlloc | asksNothing,
              [](Trial& t) {
                  S text(L"  aB  ");
@@ -209,22 +142,13 @@ Group stringOperations() {
                  t.expect(holds(text, L"AB"));
              }},
             {"ZString set", endsAlloc,
-             [](Trial& t) {
-                 edited<S>(
-                     t, L"", [](S& s) { s.set(L"%.1f %40d", 2.5, 7); },
-                     L"2.5                                        7");
-             }},
+             edited<S>(L"", L"2.5                                        7",
+                       [](S& s) { s.set(L"%.1f %40d", 2.5, 7); })},
             {"ZString set, long", endsAlloc,
-             [](Trial& t) {
-                 edited<S>(
-                     t, L"", [](S& s) { s.set(L"%s", longText.c_str()); }, longText.c_str());
-             }},
+             edited<S>(L"", longText, [](S& s) { s.set(L"%s", longText.c_str()); })},
             {"ZString set, narrow", endsAlloc,
-             [](Trial& t) {
-                 edited<S>(
-                     t, L"", [](S& s) { s.set(L"%S", longBytes.c_str()); },
-                     std::wstring(600, L'n').c_str());
-             }},
+             edited<S>(L"", std::wstring(600, L'n'),
+                       [](S& s) { s.set(L"%S", longBytes.c_str()); })},
             {"ZString getAscii", goesOn,
              [](Trial& t) {
                  const S text(L"abc");
@@ -263,135 +187,55 @@ Group encodedStringOperations() {
     return {
         "`ZMultiByteString`, `ZWideString`, `ZGenericString`, conversions",
         {
-            {"ZMultiByteString(text)", endsAlloc,
-             [](Trial& t) {
-                 made<M>(
-                     t, [] { return M("abc"); }, "abc");
-             }},
+            {"ZMultiByteString(text)", endsAlloc, made<M>([] { return M("abc"); }, "abc")},
             {"ZMultiByteString(text, n)", endsAlloc,
-             [](Trial& t) {
-                 made<M>(
-                     t, [] { return M(longBytes.c_str(), 3); }, "nnn");
-             }},
+             made<M>([] { return M(longBytes.c_str(), 3); }, "nnn")},
             {"ZMultiByteString(ZString, code page)", endsAlloc,
-             [](Trial& t) {
-                 const ZString text(longText.c_str());
-                 made<M>(
-                     t, [&] { return M(text, 65001); }, std::string(600, 'w').c_str());
-             }},
+             made<M>([text = ZString(longText.c_str())] { return M(text, 65001); },
+                     std::string(600, 'w'))},
             {"ZMultiByteString copied", endsAlloc,
-             [](Trial& t) {
-                 const M source("abc");
-                 made<M>(
-                     t, [&] { return M(source); }, "abc");
-             }},
+             made<M>([source = M("abc")] { return M(source); }, "abc")},
             {"ZMultiByteString =", endsAlloc,
-             [](Trial& t) {
-                 const M source(longBytes.c_str());
-                 edited<M>(
-                     t, "abc", [&](M& m) { m = source; }, longBytes.c_str());
-             }},
+             edited<M>("abc", longBytes, [source = M(longBytes.c_str())](M& m) { m = source; })},
             {"ZMultiByteString +=", endsAlloc,
-             [](Trial& t) {
-                 edited<M>(
-                     t, "", [](M& m) { m += longBytes.c_str(); }, longBytes.c_str());
-             }},
+             edited<M>("", longBytes, [](M& m) { m += longBytes.c_str(); })},
             {"ZMultiByteString[] and resize", endsAlloc,
-             [](Trial& t) {
-                 edited<M>(
-                     t, "abc",
-                     [](M& m) {
-                         m[200] = '\0';
-                         m.resize(400);
-                     },
-                     "abc");
-             }},
+             edited<M>("abc", "abc",
+                       [](M& m) {
+                           m[200] = '\0';
+                           m.resize(400);
+                       })},
             {"ZMultiByteString subString", endsAlloc,
-             [](Trial& t) {
-                 M text(longBytes.c_str());
-                 made<M>(
-                     t, [&] { return text.subString(10, 3); }, "nnn");
-             }},
+             made<M>([text = M(longBytes.c_str())] { return text.subString(10, 3); }, "nnn")},
             {"ZMultiByteString set", endsAlloc,
-             [](Trial& t) {
-                 edited<M>(
-                     t, "", [](M& m) { m.set("%s", longBytes.c_str()); }, longBytes.c_str());
-             }},
-            {"ZWideString(text)", endsAlloc,
-             [](Trial& t) {
-                 made<W>(
-                     t, [] { return W(L"abc"); }, L"abc");
-             }},
-            {"ZWideString(narrow)", endsAlloc,
-             [](Trial& t) {
-                 made<W>(
-                     t, [] { return W("abc"); }, L"abc");
-             }},
+             edited<M>("", longBytes, [](M& m) { m.set("%s", longBytes.c_str()); })},
+            {"ZWideString(text)", endsAlloc, made<W>([] { return W(L"abc"); }, L"abc")},
+            {"ZWideString(narrow)", endsAlloc, made<W>([] { return W("abc"); }, L"abc")},
             {"ZWideString(narrow, n)", endsAlloc,
-             [](Trial& t) {
-                 made<W>(
-                     t, [] { return W(longBytes.c_str(), 3); }, L"nnn");
-             }},
+             made<W>([] { return W(longBytes.c_str(), 3); }, L"nnn")},
             {"ZWideString(ZString)", endsAlloc,
-             [](Trial& t) {
-                 const ZString text(L"abc");
-                 made<W>(
-                     t, [&] { return W(text); }, L"abc");
-             }},
+             made<W>([text = ZString(L"abc")] { return W(text); }, L"abc")},
             {"ZWideString copied", endsAlloc,
-             [](Trial& t) {
-                 const W source(L"abc");
-                 made<W>(
-                     t, [&] { return W(source); }, L"abc");
-             }},
+             made<W>([source = W(L"abc")] { return W(source); }, L"abc")},
             {"ZWideString =", endsAlloc,
-             [](Trial& t) {
-                 edited<W>(
-                     t, L"abc", [](W& w) { w = longText.c_str(); }, longText.c_str());
-             }},
+             edited<W>(L"abc", longText, [](W& w) { w = longText.c_str(); })},
             {"ZWideString = narrow", endsAlloc,
-             [](Trial& t) {
-                 edited<W>(
-                     t, L"", [](W& w) { w = longBytes.c_str(); }, std::wstring(600, L'n').c_str());
-             }},
+             edited<W>(L"", std::wstring(600, L'n'), [](W& w) { w = longBytes.c_str(); })},
             {"ZWideString += narrow", endsAlloc,
-             [](Trial& t) {
-                 edited<W>(
-                     t, L"wide ", [](W& w) { w += "narrow"; }, L"wide narrow");
-             }},
+             edited<W>(L"wide ", L"wide narrow", [](W& w) { w += "narrow"; })},
             {"ZWideString +=", endsAlloc,
-             [](Trial& t) {
-                 edited<W>(
-                     t, L"", [](W& w) { w += longText.c_str(); }, longText.c_str());
-             }},
+             edited<W>(L"", longText, [](W& w) { w += longText.c_str(); })},
             {"ZWideString set", endsAlloc,
-             [](Trial& t) {
-                 edited<W>(
-                     t, L"", [](W& w) { w.set(L"%s", longText.c_str()); }, longText.c_str());
-             }},
+             edited<W>(L"", longText, [](W& w) { w.set(L"%s", longText.c_str()); })},
             {"strToUtf8", endsAlloc,
-             [](Trial& t) {
-                 const ZString text(L"\u00E9");
-                 made<M>(
-                     t, [&] { return strToUtf8(text); }, "\xC3\xA9");
-             }},
+             made<M>([text = ZString(L"\u00E9")] { return strToUtf8(text); }, "\xC3\xA9")},
             {"utf8ToStr", endsAlloc,
-             [](Trial& t) {
-                 const M text("\xC3\xA9");
-                 made<ZString>(
-                     t, [&] { return utf8ToStr(text); }, L"\u00E9");
-             }},
+             made<ZString>([text = M("\xC3\xA9")] { return utf8ToStr(text); }, L"\u00E9")},
             {"wideToUtf8 into a string", endsAlloc,
-             [](Trial& t) {
-                 const W text(longText.c_str());
-                 edited<M>(
-                     t, "abc", [&](M& m) { wideToUtf8(text, m); }, std::string(600, 'w').c_str());
-             }},
+             edited<M>("abc", std::string(600, 'w'),
+                       [text = W(longText.c_str())](M& m) { wideToUtf8(text, m); })},
             {"strToWide and back", endsAlloc,
-             [](Trial& t) {
-                 made<ZString>(
-                     t, [] { return wideToStr(strToWide(L"abc")); }, L"abc");
-             }},
+             made<ZString>([] { return wideToStr(strToWide(L"abc")); }, L"abc")},
             // A code page of the system's: without memory there, it counts as unknown.
             {"mbsToStr, code page 1252", endsAlloc,
              [](Trial& t) {
