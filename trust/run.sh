@@ -11,6 +11,7 @@ trust_parts=(
     "locales:Locales"
     "platforms:The same bytes on both platforms"
     "memory:No memory"
+    "tests:How good the tests are"
 )
 
 trust_page=docs/reliability.md
