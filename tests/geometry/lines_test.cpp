@@ -148,7 +148,8 @@ TEST(PointOnSegment, MirroredSlopesPassAndToleranceWidensOneEnd) {
         {-0.5, 0, 0, 0, 8, 0, 1}, {8.5, 0, 0, 0, 8, 0, 2}, {4, 0.07, 0, 0, 8, 0, 0},
         {-0.5, 0, 8, 0, 0, 0, 3}, {8.5, 0, 8, 0, 0, 0, 2}, {0.5, 0.5, 0, 0, 0, 0.4, 0},
         {0, -0.5, 0, 0, 0, 8, 1}, {0, 8.5, 0, 0, 0, 8, 2}, {0.2, 0.2, 0, 0, 0.4, 0, 2},
-        {0, -0.5, 0, 8, 0, 0, 3}, {0, 8.5, 0, 8, 0, 0, 2}, {-0.1, 18, 0, 0, 0.4, 8, 3}};
+        {0, -0.5, 0, 8, 0, 0, 3}, {0, 8.5, 0, 8, 0, 0, 2}, {-0.1, 18, 0, 0, 0.4, 8, 3},
+        {-1, 0, 0, 0, 0.5, 0, 2}}; // no longer than the tolerance: neither end is beyond
     for (const auto& [px, py, ax, ay, bx, by, code] : rows)
         EXPECT_EQ(pointOnLineSegment(DPoint(px, py), DPoint(ax, ay), DPoint(bx, by), 0.5), code)
             << px << " " << py << " " << ax << " " << ay;

@@ -17,11 +17,13 @@ SigUInt ones(int bits) {
 
 /// `work` on a number of 20000 bits gives `result`, and the operand is as it was.
 template <class Work>
-void computed(Trial& trial, Work work, const SigUInt& result) {
-    const SigUInt operand = ones(20000);
-    SigUInt number;
-    trial.attempt([&] { number = work(operand); });
-    trial.expect(number == result && operand.bitLength() == 20000);
+auto computed(Work work, const SigUInt& result) {
+    return [work, result](Trial& trial) {
+        const SigUInt operand = ones(20000);
+        SigUInt number;
+        trial.attempt([&] { number = work(operand); });
+        trial.expect(number == result && operand.bitLength() == 20000);
+    };
 }
 
 /// base^exponent mod modulus by squaring alone.
@@ -64,26 +66,14 @@ Group numberOperations() {
                  t.expect(number && *number == ones(20000));
              }},
             {"SigUInt copied", endsAlloc,
-             [](Trial& t) {
-                 computed(
-                     t, [](const SigUInt& n) { return SigUInt(n); }, ones(20000));
-             }},
+             computed([](const SigUInt& n) { return SigUInt(n); }, ones(20000))},
             {"SigUInt + and ++", endsAlloc,
-             [](Trial& t) {
-                 computed(
-                     t, [](const SigUInt& n) { return n + SigUInt(1); }, SigUInt(1) << 20000);
-             }},
+             computed([](const SigUInt& n) { return n + SigUInt(1); }, SigUInt(1) << 20000)},
             {"SigUInt -", endsAlloc,
-             [](Trial& t) {
-                 computed(
-                     t, [](const SigUInt& n) { return n - (n >> 1); }, SigUInt(1) << 19999);
-             }},
+             computed([](const SigUInt& n) { return n - (n >> 1); }, SigUInt(1) << 19999)},
             {"SigUInt *", endsAlloc,
-             [](Trial& t) {
-                 const SigUInt square = (ones(20000) << 20000) - ones(20000);
-                 computed(
-                     t, [](const SigUInt& n) { return n * n; }, square);
-             }},
+             computed([](const SigUInt& n) { return n * n; },
+                      (ones(20000) << 20000) - ones(20000))},
             {"SigUInt *= itself", endsAlloc,
              [](Trial& t) {
                  SigUInt number = ones(9000);
@@ -92,16 +82,10 @@ Group numberOperations() {
                  t.expect(number == square);
              }},
             {"SigUInt %", endsAlloc,
-             [](Trial& t) {
-                 const SigUInt divisor = ones(9000);
-                 computed(
-                     t, [&](const SigUInt& n) { return n % divisor; }, ones(2000));
-             }},
+             computed([divisor = ones(9000)](const SigUInt& n) { return n % divisor; },
+                      ones(2000))},
             {"SigUInt << and >>", endsAlloc,
-             [](Trial& t) {
-                 computed(
-                     t, [](const SigUInt& n) { return (n << 5000) >> 5000; }, ones(20000));
-             }},
+             computed([](const SigUInt& n) { return (n << 5000) >> 5000; }, ones(20000))},
             {"SigUInt getHex", endsAlloc,
              [](Trial& t) {
                  const SigUInt number = ones(20000);
