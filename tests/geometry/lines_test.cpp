@@ -143,13 +143,14 @@ TEST(PointOnSegment, CodesFollowTheOrderAlongTheLine) {
 }
 
 TEST(PointOnSegment, MirroredSlopesPassAndToleranceWidensOneEnd) {
+    // In the last two, the segment is as long as the tolerance, or has no length that way.
     const double rows[][7] = {
-        {8, 12, 0, 0, 10, 10, 3}, {6, 5, 0, 0, 8, 4, 3},   {4, 0.0625, 0, 0, 8, 0, 2},
-        {-0.5, 0, 0, 0, 8, 0, 1}, {8.5, 0, 0, 0, 8, 0, 2}, {4, 0.07, 0, 0, 8, 0, 0},
-        {-0.5, 0, 8, 0, 0, 0, 3}, {8.5, 0, 8, 0, 0, 0, 2}, {0.5, 0.5, 0, 0, 0, 0.4, 0},
-        {0, -0.5, 0, 0, 0, 8, 1}, {0, 8.5, 0, 0, 0, 8, 2}, {0.2, 0.2, 0, 0, 0.4, 0, 2},
-        {0, -0.5, 0, 8, 0, 0, 3}, {0, 8.5, 0, 8, 0, 0, 2}, {-0.1, 18, 0, 0, 0.4, 8, 3},
-        {-1, 0, 0, 0, 0.5, 0, 2}}; // no longer than the tolerance: neither end is beyond
+        {8, 12, 0, 0, 10, 10, 3}, {6, 5, 0, 0, 8, 4, 3},      {4, 0.0625, 0, 0, 8, 0, 2},
+        {-0.5, 0, 0, 0, 8, 0, 1}, {8.5, 0, 0, 0, 8, 0, 2},    {4, 0.07, 0, 0, 8, 0, 0},
+        {-0.5, 0, 8, 0, 0, 0, 3}, {8.5, 0, 8, 0, 0, 0, 2},    {0.5, 0.5, 0, 0, 0, 0.4, 0},
+        {0, -0.5, 0, 0, 0, 8, 1}, {0, 8.5, 0, 0, 0, 8, 2},    {0.2, 0.2, 0, 0, 0.4, 0, 2},
+        {0, -0.5, 0, 8, 0, 0, 3}, {0, 8.5, 0, 8, 0, 0, 2},    {-0.1, 18, 0, 0, 0.4, 8, 3},
+        {-1, 0, 0, 0, 0.5, 0, 2}, {0.6, 0.3, 0, 0, 0, 0.7, 2}};
     for (const auto& [px, py, ax, ay, bx, by, code] : rows)
         EXPECT_EQ(pointOnLineSegment(DPoint(px, py), DPoint(ax, ay), DPoint(bx, by), 0.5), code)
             << px << " " << py << " " << ax << " " << ay;

@@ -33,15 +33,19 @@ def sources():
 
 
 def candidates(count, seed):
-    """For each folder its share of the sample, and its mutants, in the order of their ranks."""
+    """For each folder its share of the sample, and its mutants, one a line, in the order of
+    their ranks."""
     folders = {}
     for file in sources():
         if file.count("/") > 1:
             found = mutants_of(file, (ROOT / file).read_text())
             folders.setdefault(file.split("/")[1], []).extend(found)
+    for mutants in folders.values():
+        mutants.sort(key=lambda mutant: mutant.rank(seed), reverse=True)
+        mutants[:] = list({(m.file, m.line): m for m in mutants}.values())
+        mutants.sort(key=lambda mutant: mutant.rank(seed))
     total = sum(map(len, folders.values()))
     for name, mutants in folders.items():
-        mutants.sort(key=lambda mutant: mutant.rank(seed))
         share = max(LEAST, round(count * len(mutants) / total))
         yield name, min(share, len(mutants)), mutants
 
