@@ -295,16 +295,10 @@ TEST(Lengths, CompareEachByTheirOwnRule) {
         {infinity, infinity, false, true, true, false}, // their difference is no number
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE(testing::Message() << row.a << " " << row.b);
-        EXPECT_EQ(ZMillimeter(row.a) == ZMillimeter(row.b), row.millimeter);
-        EXPECT_EQ(ZMillimeter(row.a) != ZMillimeter(row.b), !row.millimeter);
-        EXPECT_EQ(ZCentimeter(row.a) == ZCentimeter(row.b), row.centimeter);
-        EXPECT_EQ(ZInch(row.a) == ZInch(row.b), row.inch);
-        EXPECT_EQ(ZEmbPoint(row.a) == ZEmbPoint(row.b), row.point);
-        EXPECT_EQ(ZMillimeter(row.a) < ZMillimeter(row.b), row.a < row.b);
-        EXPECT_EQ(ZCentimeter(row.a) < ZCentimeter(row.b), row.a < row.b);
-        EXPECT_EQ(ZInch(row.a) < ZInch(row.b), row.a < row.b);
-        EXPECT_EQ(ZEmbPoint(row.a) < ZEmbPoint(row.b), row.a < row.b);
+        checkCompared<ZMillimeter>(row.a, row.b, row.millimeter);
+        checkCompared<ZCentimeter>(row.a, row.b, row.centimeter);
+        checkCompared<ZInch>(row.a, row.b, row.inch);
+        checkCompared<ZEmbPoint>(row.a, row.b, row.point);
     }
 }
 

@@ -23,3 +23,14 @@ void checkAssigned(const Source& source, double value) {
     EXPECT_EQ(target.isValid(), source.isValid());
     EXPECT_EQ(double(Target(source)), value);
 }
+
+/// Checks ==, != and < of two values, which are the same or not by the rule of the class.
+template <class Quantity>
+void checkCompared(double left, double right, bool same) {
+    const Quantity a(left), b(right);
+    SCOPED_TRACE(testing::Message() << left << " and " << right << " as unit " << a.getUnitId());
+    EXPECT_EQ(a == b, same);
+    EXPECT_EQ(a != b, !same);
+    EXPECT_EQ(a < b, double(a) < double(b));
+    EXPECT_EQ(b < a, double(b) < double(a));
+}

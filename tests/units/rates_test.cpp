@@ -166,13 +166,12 @@ TEST(Rates, AssigningZeroGivesZeroWhereReadingGivesInfinity) {
 }
 
 TEST(Rates, CompareExactlyExceptMillimetersPerSecond) {
-    EXPECT_FALSE(ZSpi(1.0) == ZSpi(1.0 + 1e-10));
-    EXPECT_FALSE(ZSquareCentimeter(1.0) == ZSquareCentimeter(1.0 + 1e-10));
-    EXPECT_FALSE(ZCentimeterPerSec(1.0) == ZCentimeterPerSec(1.0 + 1e-10));
-    EXPECT_TRUE(ZMillimeterPerSec(1.0) == ZMillimeterPerSec(1.0 + 1e-10));
-    EXPECT_TRUE(ZMillimeterPerSec(1.0) != ZMillimeterPerSec(1.0 + 1e-8));
-    EXPECT_TRUE(ZSpi(1.0) < ZSpi(1.0 + 1e-10));
-    EXPECT_TRUE(ZSquareCentimeter(1.0) < ZSquareCentimeter(2.0));
+    for (const double apart : {0.0, 1e-10, 1.1e-9, 1.0}) {
+        checkCompared<ZSpi>(1.0, 1.0 + apart, apart == 0.0);
+        checkCompared<ZSquareCentimeter>(1.0, 1.0 + apart, apart == 0.0);
+        checkCompared<ZCentimeterPerSec>(1.0, 1.0 + apart, apart == 0.0);
+        checkCompared<ZMillimeterPerSec>(1.0, 1.0 + apart, apart < 1e-9);
+    }
     EXPECT_TRUE(ZSpi(2.0) == 2);
     EXPECT_TRUE(ZCentimeterPerSec(2.0) == 2.0);
 }
