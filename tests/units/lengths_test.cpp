@@ -148,9 +148,9 @@ TEST(Lengths, RenderWithTheirLabels) {
         EXPECT_EQ(wide(millimeter), row.millimeter);
         EXPECT_EQ(wide(constMillimeter.getString()), row.millimeter);
         EXPECT_EQ(wide(constMillimeter), row.constMillimeter);
-        EXPECT_EQ(wide(ZCentimeter(row.value)), row.centimeter);
-        EXPECT_EQ(wide(ZInch(row.value)), row.inch);
-        EXPECT_EQ(wide(ZEmbPoint(row.value)), row.point);
+        checkText<ZCentimeter>(row.value, row.centimeter);
+        checkText<ZInch>(row.value, row.inch);
+        checkText<ZEmbPoint>(row.value, row.point);
     }
     EXPECT_EQ(wide(ZMillimeter(2.5).getString(7, 3)), L"  2.500 mm");
     EXPECT_EQ(wide(ZMillimeter(2.5).getDensityString(-6, 1)), L"2.5    mm");

@@ -34,3 +34,14 @@ void checkCompared(double left, double right, bool same) {
     EXPECT_EQ(a < b, double(a) < double(b));
     EXPECT_EQ(b < a, double(b) < double(a));
 }
+
+/// Checks the text of a value, also where it is asked for in a unit that the class ignores.
+template <class Quantity>
+void checkText(double value, const wchar_t* text, int ignoredUnit = -1) {
+    Quantity quantity(value);
+    SCOPED_TRACE(testing::Message() << value << " as unit " << quantity.getUnitId());
+    EXPECT_EQ(wide(quantity), text);
+    EXPECT_EQ(wide(static_cast<const Quantity&>(quantity)), text);
+    EXPECT_EQ(wide(quantity.getStringWithUnits(ignoredUnit)), text);
+    EXPECT_EQ(quantity.isValid(), 1);
+}

@@ -63,20 +63,13 @@ TEST(ZSquareCentimeter, ReadsItsOwnUnitOnly) {
 }
 
 TEST(Rates, Render) {
-    ZSpi spi(12.7);
-    EXPECT_EQ(wide(spi), L"12.7 spi");
-    EXPECT_EQ(wide(static_cast<const ZSpi&>(spi)), L"12.7 spi");
-    EXPECT_EQ(wide(spi.getString(7, 2)), L"  12.70 spi");
-    ZSquareCentimeter area(5.0);
-    EXPECT_EQ(wide(area), L" 5.0 per sq cm");
-    EXPECT_EQ(wide(static_cast<const ZSquareCentimeter&>(area)), L" 5.0 per sq cm");
-    EXPECT_EQ(wide(area.getStringWithUnits(2)), L" 5.0 per sq cm");
-    EXPECT_EQ(wide(area.getString(1, 0)), L"5 per sq cm");
+    checkText<ZSpi>(12.7, L"12.7 spi");
+    checkText<ZSquareCentimeter>(5.0, L" 5.0 per sq cm", 2);
+    checkText<ZCentimeterPerSec>(1.2, L"1.20 cm/s", 2);
+    EXPECT_EQ(wide(ZSpi(12.7).getString(7, 2)), L"  12.70 spi");
+    EXPECT_EQ(wide(ZSquareCentimeter(5.0).getString(1, 0)), L"5 per sq cm");
     ZCentimeterPerSec slow(ZString(L"12 mm"));
-    EXPECT_EQ(wide(slow), L"1.20 cm/s");
-    EXPECT_EQ(wide(static_cast<const ZCentimeterPerSec&>(slow)), L"1.20 cm/s");
     EXPECT_EQ(wide(slow.getString(6, 1)), L"   1.2 cm/s");
-    EXPECT_EQ(wide(slow.getStringWithUnits(2)), L"1.20 cm/s");
     EXPECT_EQ(wide(slow.getDensityStringWithUnits(2)), L"12.00 mm");
     EXPECT_EQ(wide(slow.getDensityStringWithUnits(4)), L"1.20 cm/s");
     const ZCentimeter& constBase = slow;

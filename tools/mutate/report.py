@@ -39,17 +39,17 @@ def write(mutants, rows, reasons_path, seconds):
 
     print(f"{total['all']} small changes were made to the library, one at a time: operators, "
           f"comparisons, numbers and\nconditions changed, statements left out; a sample fixed by "
-          f"a seed. Counted are those that compile to\nother code. The tests noticed "
-          f"{per_cent(total['killed'], total['all'])}; of those that can change an outcome, "
-          f"{per_cent(total['killed'], total['killed'] + total['open'])}.\n"
+          f"a seed, one a line. Counted are those that\ncompile to other code. The tests noticed "
+          f"{total['killed']}, that is {per_cent(total['killed'], total['all'])}; of the others, "
+          f"{total['explained']} are explained below\nand {total['open']} are open. "
           f"{spent / max(1, total['all']):.1f} s a change.\n")
-    print("| folder | changes | noticed | | no outcome differs | open |\n|---|---|---|---|---|---|")
+    print("| folder | changes | noticed | | explained | open |\n|---|---|---|---|---|---|")
     for name, counts in [*sorted(table.items()), ("total", total)]:
         print(f"| {name} | {counts['all']} | {counts['killed']} | "
               f"{per_cent(counts['killed'], counts['all'])} | {counts['explained']} | "
               f"{counts['open']} |")
-    listing("Open: no test notices", open_ones)
-    listing("Not noticed, with the reason", explained)
+    listing("Open", open_ones)
+    listing("Not noticed, and why", explained)
     for file, change, source in sorted(set(reasons) - used):
         print(f"not in this sample: {file}: {change}: {source}", file=sys.stderr)
 
