@@ -51,7 +51,10 @@ void Suite::print(const Row& row) const {
                             time(row.figures().front().nanoseconds).c_str());
     if (peer != nullptr) {
         line += text("  %6.2f [%.2f %.2f] of %s, limit %.2f%s", peer->median, peer->low, peer->high,
-                     peer->name.c_str(), peer->limit, row.isBeyond() ? " BEYOND" : "");
+                     peer->name.c_str(), peer->limit,
+                     !row.isBeyond()         ? ""
+                     : row.whyText().empty() ? " BEYOND, unexplained"
+                                             : " BEYOND");
     }
     for (const bool counting : {true, false}) {
         const std::string list = others(row, peer, counting);
@@ -79,9 +82,7 @@ void Suite::note(const Row& row) {
     notes_ += "- *" + row.name() + "*: " + row.what() + "\n";
     if (row.isBeyond())
         notes_ += "  **Beyond its limit**: " +
-                  (!row.whyText().empty()              ? row.whyText()
-                   : peer->median < 1.06 * peer->limit ? "by a few percent, not explained."
-                                                       : "not explained.") +
+                  (row.whyText().empty() ? "not explained; measured again below." : row.whyText()) +
                   "\n";
 }
 

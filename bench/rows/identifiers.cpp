@@ -161,6 +161,8 @@ void compareRow(Suite& suite) {
     suite.row("compare", 1.0, "Each of 64 with each, by ==; per comparison.",
               [](Row& row, const auto& measure) {
                   row.per(poolSize * poolSize);
+                  row.why("Each comparison asks whether both are valid; the peers' identifiers "
+                          "always are.");
                   std::vector<ZGUIDWrapper> ours;
                   for (std::size_t i = 0; i < poolSize; ++i)
                       ours.emplace_back(guid(i));

@@ -285,7 +285,7 @@ void integerRow(Suite& suite, const std::string& name, std::size_t count) {
 #endif
             measure();
         });
-    suite.row("integer sums, " + name, 1.0, "p + (q - p) + (q - p), which wraps; per point.",
+    suite.row("integer sums, " + name, 1.0, "p + (q - r), which wraps; per point.",
               [count](Row& row, const auto& measure) {
                   Array<IPoint> ours;
                   Array<PlainInts> plain;
@@ -296,21 +296,19 @@ void integerRow(Suite& suite, const std::string& name, std::size_t count) {
                   }
                   Array<IPoint> oursOut(ours);
                   Array<PlainInts> plainOut(plain);
-                  const std::size_t last = count - 1;
+                  const std::size_t last = count - 2;
                   row.per(static_cast<double>(count));
                   row.ours([&] {
-                      for (std::size_t i = 0; i < last; ++i) {
-                          const IVector step = ours[i + 1] - ours[i];
-                          oursOut[i] = ours[i] + step + step;
-                      }
+                      for (std::size_t i = 0; i < last; ++i)
+                          oursOut[i] = ours[i] + (ours[i + 1] - ours[i + 2]);
                       return oursOut[last / 2].x + 3.0 * oursOut[last / 3].y;
                   });
                   row.peer("by hand", [&] {
                       for (std::size_t i = 0; i < last; ++i) {
                           const PlainInts p = plain[i];
-                          const PlainInts q = plain[i + 1];
-                          const PlainInts step = {q.x - p.x, q.y - p.y};
-                          plainOut[i] = {p.x + step.x + step.x, p.y + step.y + step.y};
+                          const PlainInts step = {plain[i + 1].x - plain[i + 2].x,
+                                                  plain[i + 1].y - plain[i + 2].y};
+                          plainOut[i] = {p.x + step.x, p.y + step.y};
                       }
                       return plainOut[last / 2].x + 3.0 * plainOut[last / 3].y;
                   });
@@ -320,10 +318,8 @@ void integerRow(Suite& suite, const std::string& name, std::size_t count) {
                       qt.push_back(QPoint(p.x, p.y));
                   Array<QPoint> qtOut(qt);
                   row.peer("Qt", [&] {
-                      for (std::size_t i = 0; i < last; ++i) {
-                          const QPoint step = qt[i + 1] - qt[i];
-                          qtOut[i] = qt[i] + step + step;
-                      }
+                      for (std::size_t i = 0; i < last; ++i)
+                          qtOut[i] = qt[i] + (qt[i + 1] - qt[i + 2]);
                       return qtOut[last / 2].x() + 3.0 * qtOut[last / 3].y();
                   });
 #endif
@@ -333,10 +329,8 @@ void integerRow(Suite& suite, const std::string& name, std::size_t count) {
                       eigen.emplace_back(p.x, p.y);
                   Array<Eigen::Vector2i> eigenOut(eigen);
                   row.peer("Eigen", [&] {
-                      for (std::size_t i = 0; i < last; ++i) {
-                          const Eigen::Vector2i step = eigen[i + 1] - eigen[i];
-                          eigenOut[i] = eigen[i] + step + step;
-                      }
+                      for (std::size_t i = 0; i < last; ++i)
+                          eigenOut[i] = eigen[i] + (eigen[i + 1] - eigen[i + 2]);
                       return eigenOut[last / 2].x() + 3.0 * eigenOut[last / 3].y();
                   });
 #endif

@@ -327,7 +327,7 @@ struct alignas(64) Aligned {
 };
 
 template <class T>
-void exercise(T one, T two) {
+void exercise(const T& one, const T& two) {
     ZList<T> list{one, two};
     list.move(0, 1);
     list.insert(one, 0);

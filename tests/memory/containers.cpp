@@ -28,9 +28,9 @@ Ints counted(int length) {
 }
 
 /// `edit` either does all of its work on a full array of 32 or leaves it as it was.
-template <class Edit, class Done>
-auto edited(Edit edit, Done isDone) {
-    return [edit, isDone](Trial& trial) {
+template <class Done, class Edit>
+auto edited(Done isDone, Edit edit) {
+    return [=](Trial& trial) {
         Ints array = counted(32);
         trial.attempt([&] { edit(array); });
         const bool unchanged = counts(array, 0, 32);
@@ -39,6 +39,14 @@ auto edited(Edit edit, Done isDone) {
         array.add(7);
         trial.expect(array.length() == before + 1 && array[before] == 7);
     };
+}
+
+/// The length is `length`, and the last element `last`.
+auto ends(int length, int last) {
+    return [=](const Ints& array) { return array.length() == length && array[length - 1] == last; };
+}
+auto counting(int first, int length) {
+    return [=](const Ints& array) { return counts(array, first, length); };
 }
 
 /// A list whose ring runs through `length` elements in both directions.
@@ -98,35 +106,29 @@ Group arrayOperations() {
                  array.add(0);
                  t.expect(array.length() == (t.failed() ? 1 : 41));
              }},
-            {"ZXArray add", endsAlloc,
-             edited([](Ints& a) { a.add(32); }, [](Ints& a) { return counts(a, 0, 33); })},
+            {"ZXArray add", endsAlloc, edited(counting(0, 33), [](Ints& a) { a.add(32); })},
             {"ZXArray add, an element of its own", endsAlloc,
-             edited([](Ints& a) { a.add(a[31]); },
-                    [](Ints& a) { return a.length() == 33 && a[32] == 31; })},
+             edited(ends(33, 31), [](Ints& a) { a.add(a[31]); })},
             {"ZXArray[] beyond the end", endsAlloc,
-             edited([](Ints& a) { a[99] = 9; },
-                    [](Ints& a) { return a.length() == 100 && a[99] == 9; })},
+             edited(ends(100, 9), [](Ints& a) { a[99] = 9; })},
             {"ZXArray set beyond the end", endsAlloc,
-             edited([](Ints& a) { a.set(40, 9); },
-                    [](Ints& a) { return a.length() == 41 && a[40] == 9; })},
-            {"ZXArray ins", endsAlloc,
-             edited([](Ints& a) { a.ins(0, -1); }, [](Ints& a) { return counts(a, -1, 33); })},
+             edited(ends(41, 9), [](Ints& a) { a.set(40, 9); })},
+            {"ZXArray ins", endsAlloc, edited(counting(-1, 33), [](Ints& a) { a.ins(0, -1); })},
             {"ZXArray ins beyond the end", endsAlloc,
-             edited([](Ints& a) { a.ins(70, 9); },
-                    [](Ints& a) { return a.length() == 71 && a[70] == 9; })},
+             edited(ends(71, 9), [](Ints& a) { a.ins(70, 9); })},
             {"ZXArray reserve", endsAlloc,
-             edited([](Ints& a) { a.reserve(1000); },
-                    [](Ints& a) { return counts(a, 0, 32) && a.allocLength() >= 1000; })},
+             edited([](Ints& a) { return counts(a, 0, 32) && a.allocLength() >= 1000; },
+                    [](Ints& a) { a.reserve(1000); })},
             {"ZXArray setSize", goesOn,
-             edited([](Ints& a) { a.setSize(100); },
-                    [](Ints& a) { return a.length() == 100 && a[31] == 31; })},
+             edited([](Ints& a) { return a.length() == 100 && a[31] == 31; },
+                    [](Ints& a) { a.setSize(100); })},
             {"ZXArray resize", goesOn,
-             edited([](Ints& a) { a.resize(100); },
-                    [](Ints& a) { return a.length() == 100 && a[31] == 31; })},
+             edited([](Ints& a) { return a.length() == 100 && a[31] == 31; },
+                    [](Ints& a) { a.resize(100); })},
             {"ZXArray resize downward", goesOn,
-             edited([](Ints& a) { a.resize(8); }, [](Ints& a) { return counts(a, 0, 8); })},
+             edited(counting(0, 8), [](Ints& a) { a.resize(8); })},
             {"ZXArray setAllocSize", goesOn,
-             edited([](Ints& a) { a.setAllocSize(10); }, [](Ints& a) { return counts(a, 0, 10); })},
+             edited(counting(0, 10), [](Ints& a) { a.setAllocSize(10); })},
             {"ZXArray compact", goesOn,
              [](Trial& t) {
                  Ints array = counted(5);
@@ -134,12 +136,11 @@ Group arrayOperations() {
                  t.expect(counts(array, 0, 5) && array.allocLength() == (t.failed() ? 32 : 5));
              }},
             {"ZXArray setEmpty and growth", endsAlloc,
-             edited(
-                 [](Ints& a) {
-                     a.setEmpty(7);
-                     a[40] = 1;
-                 },
-                 [](Ints& a) { return a.length() == 41 && a[39] == 7; })},
+             edited([](Ints& a) { return a.length() == 41 && a[39] == 7; },
+                    [](Ints& a) {
+                        a.setEmpty(7);
+                        a[40] = 1;
+                    })},
             {"ZXArray<ZString> grown and copied", endsAlloc,
              [](Trial& t) {
                  ZXArray<ZString> texts;

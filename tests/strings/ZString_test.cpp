@@ -92,8 +92,26 @@ TEST(ZString, WhatWasMovedFromStaysUsable) {
     EXPECT_EQ(wide(use[2]), L"");
     EXPECT_EQ(use[3][0], L'x');
     EXPECT_EQ(wide(use[4]), L"x");
-    second = ZString(L"def");
-    EXPECT_EQ(wide(second), L"def");
+}
+
+TEST(ZString, ATemporaryIsAssignedAsAVariableIs) {
+    ZString sources[] = {ZString(), ZString(L"abc"), ZString(std::wstring(600, L'w').c_str()),
+                         ZString(L"ab"), ZString(300, 512)};
+    std::wcscpy(sources[3], L"longer than before"); // cut at three slots
+    for (const int room : {0, 10, 2000}) {
+        for (const ZString& source : sources) {
+            ZString byVariable;
+            byVariable.resize(room);
+            ZString byTemporary(byVariable);
+            const wchar_t* const before = byTemporary;
+            byVariable = source;
+            byTemporary = ZString(source);
+            EXPECT_EQ(wide(byTemporary), wide(byVariable));
+            EXPECT_EQ(byTemporary.allocLength(), byVariable.allocLength());
+            EXPECT_TRUE(source.allocLength() > room ||
+                        static_cast<const wchar_t*>(byTemporary) == before);
+        }
+    }
 }
 
 TEST(ZString, RawWritesCountAtOnceAndResizeSynchronises) {

@@ -8,7 +8,7 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdlib>
+#include <cstring>
 #include <limits>
 #include <new>
 #include <type_traits>
@@ -16,16 +16,16 @@
 
 namespace zarnex::detail {
 
-/// Whether arrays move elements as plain bytes, in a block of the C library's heap.
+/// Whether arrays move elements as plain bytes, without constructing those that are copied over.
 template <class T>
 inline constexpr bool
     movesAsBytes = std::is_trivially_copyable_v<T>&& std::is_nothrow_default_constructible_v<T> &&
-                   alignof(T) <= alignof(std::max_align_t);
+                   alignof(T) <= __STDCPP_DEFAULT_NEW_ALIGNMENT__;
 
 template <class T>
 void release(T* storage) {
     if constexpr (movesAsBytes<T>)
-        std::free(storage);
+        ::operator delete[](storage);
     else
         delete[] storage;
 }
@@ -37,13 +37,16 @@ T* resized(T* storage, int kept, int count) {
     const auto slots = static_cast<std::size_t>(count);
     kept = (std::min)(kept, count);
     if constexpr (movesAsBytes<T>) {
-        // The heap can often enlarge a block where it stands.
-        const std::size_t bytes = slots * sizeof(T);
-        T* const moved =
-            static_cast<T*>(storage == nullptr ? std::malloc(bytes) : std::realloc(storage, bytes));
-        for (int i = kept; moved != nullptr && i < count; ++i)
-            ::new (static_cast<void*>(moved + i)) T;
-        return moved;
+        T* const fresh = static_cast<T*>(::operator new[](slots * sizeof(T), std::nothrow));
+        if (fresh == nullptr)
+            return nullptr;
+        if (storage != nullptr)
+            std::memcpy(static_cast<void*>(fresh), storage,
+                        static_cast<std::size_t>(kept) * sizeof(T));
+        for (int i = kept; i < count; ++i)
+            ::new (static_cast<void*>(fresh + i)) T;
+        release(storage);
+        return fresh;
     } else {
         T* const fresh = new (std::nothrow) T[slots];
         if (fresh != nullptr) {

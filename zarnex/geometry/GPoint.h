@@ -32,8 +32,9 @@ public:
     /// Sets both coordinates to 0.
     void init();
 
-    /// Writes "( 1.5 , -2 )" and a line feed to std::cout, the coordinates in the
-    /// format that the stream is set to.
+    /// Writes "( 1.5 , -2 )" and a line feed to the library's std::cout, the coordinates in
+    /// the format that the stream is set to. On Linux that is the host's stream too; the DLL
+    /// has one of its own, over the same standard output.
     void show() const;
 
 private:

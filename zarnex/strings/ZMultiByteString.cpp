@@ -54,7 +54,7 @@ ZMultiByteString& ZMultiByteString::operator=(const ZMultiByteString& other) {
 }
 
 ZMultiByteString& ZMultiByteString::operator=(ZMultiByteString&& other) noexcept {
-    swapText(array_, other.array_);
+    takeArray(array_, other.array_);
     return *this;
 }
 

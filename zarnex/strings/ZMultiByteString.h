@@ -50,6 +50,8 @@ public:
 
     /// Takes the slots in use and the text of `other`, cut to those slots.
     ZMultiByteString& operator=(const ZMultiByteString& other);
+
+    /// The same; `other` may lose its text.
     ZMultiByteString& operator=(ZMultiByteString&& other) noexcept;
     ZMultiByteString& operator=(const char* text);
 

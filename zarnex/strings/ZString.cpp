@@ -70,7 +70,7 @@ ZString& ZString::operator=(const ZString& other) {
 }
 
 ZString& ZString::operator=(ZString&& other) noexcept {
-    swapText(array_, other.array_);
+    takeArray(array_, other.array_);
     return *this;
 }
 

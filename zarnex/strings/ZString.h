@@ -76,6 +76,8 @@ public:
     /// Kept as is: the growth step stays, although copying construction takes it
     /// over.
     ZString& operator=(const ZString& other);
+
+    /// The same; `other` may lose its text.
     ZString& operator=(ZString&& other) noexcept;
     ZString& operator=(const wchar_t* text);
     ZString& operator=(const char* text);

@@ -57,7 +57,7 @@ ZWideString& ZWideString::operator=(const ZWideString& other) {
 }
 
 ZWideString& ZWideString::operator=(ZWideString&& other) noexcept {
-    swapText(array_, other.array_);
+    takeArray(array_, other.array_);
     return *this;
 }
 

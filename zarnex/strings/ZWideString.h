@@ -55,6 +55,8 @@ public:
 
     /// Takes the slots in use and the text of `other`, cut to those slots.
     ZWideString& operator=(const ZWideString& other);
+
+    /// The same; `other` may lose its text.
     ZWideString& operator=(ZWideString&& other) noexcept;
     ZWideString& operator=(const wchar_t* text);
     ZWideString& operator=(const char* text);

@@ -45,7 +45,7 @@ void ZString::findAndReplace(const wchar_t* find, const wchar_t* replace) {
     *std::copy(done, end, out) = L'\0';
     result.setSize(result.allocLength());
     result.setSize(static_cast<int>(length + 1)); // clears the spare slots
-    array_.swap(result);
+    takeArray(array_, result);
 }
 
 ZString ZString::subString(int start, int count) {

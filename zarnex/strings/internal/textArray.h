@@ -126,6 +126,21 @@ void swapText(ZXArray<Char>& array, ZXArray<Char>& other) noexcept {
     other.setStep(otherStep);
 }
 
+/// assignArray() from an array that is given up: its storage is taken over where that comes to
+/// the same, because this one would grow to that size and nothing is cut.
+template <class Char>
+void takeArray(ZXArray<Char>& array, ZXArray<Char>& other) {
+    const int used = other.length();
+    const int step = array.getStep();
+    const bool grows = used > array.allocLength();
+    const bool sameSize =
+        step > 0 && other.allocLength() % step == 0 && other.allocLength() - step < used;
+    if (grows && sameSize && measure(other) < notNegative(used))
+        swapText(array, other);
+    else
+        assignArray(array, other);
+}
+
 template <class Char>
 void appendText(ZXArray<Char>& array, const Char* text, std::size_t count) {
     const std::size_t length = measure(array);
