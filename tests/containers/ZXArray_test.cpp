@@ -113,6 +113,7 @@ TEST(ZXArray, TakesEveryIntegerTypeAsIndex) {
 
 TEST(ZXArray, VacatedSlotsHoldTheEmptyValue) {
     Ints array = arrayOf({1, 2, 3});
+    EXPECT_EQ(array.isEmptySet(), 0);
     array.setEmpty(7);
     const Ints& reader = array;
     EXPECT_EQ(reader[3], 7);

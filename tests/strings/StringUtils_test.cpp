@@ -191,6 +191,8 @@ TEST(StringUtils, PathsAreBuiltWithTheMarksThatPartsLack) {
         char tight[5] = "####";
         StringUtils::makePath(tight, 4, row.drive, row.dir, row.name, row.ext);
         EXPECT_EQ(tight, std::string(row.path).substr(0, 3));
+        StringUtils::makePath(tight, 1, row.drive, row.dir, row.name, row.ext);
+        EXPECT_STREQ(tight, "");
     }
 }
 
