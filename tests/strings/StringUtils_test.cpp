@@ -196,6 +196,12 @@ TEST(StringUtils, PathsAreBuiltWithTheMarksThatPartsLack) {
     }
 }
 
+TEST(StringUtils, WidePathsAreBuiltAlike) {
+    wchar_t path[12] = L"old";
+    StringUtils::makePath(path, 12, L"C", L"dir", L"f", L"txt");
+    EXPECT_STREQ(path, L"C:dir\\f.txt");
+}
+
 TEST(StringUtils, FixnameReplacesTheExtension) {
     const struct {
         const wchar_t *path, *ext, *fixed;

@@ -2,13 +2,17 @@
 
 #include "tests/support.h"
 
-/// Checks what a quantity class reads from `text`.
+/// Checks what a quantity class reads from `text`, made from it and assigned.
 template <class Quantity>
 void checkRead(const wchar_t* text, double value, int valid = 1) {
     SCOPED_TRACE(testing::Message() << shown(text) << " as unit " << Quantity().getUnitId());
     const Quantity read{ZString(text)};
     EXPECT_EQ(double(read), value);
     EXPECT_EQ(read.isValid(), valid);
+    Quantity assigned(7.0);
+    assigned = ZString(text);
+    EXPECT_EQ(double(assigned), value);
+    EXPECT_EQ(assigned.isValid(), valid);
 }
 
 /// Assigns `source` to a valid Target of 7.0 and checks what comes out;
@@ -38,7 +42,8 @@ void checkCompared(double left, double right, bool same) {
 /// Checks the text of a value, also where it is asked for in a unit that the class ignores.
 template <class Quantity>
 void checkText(double value, const wchar_t* text, int ignoredUnit = -1) {
-    Quantity quantity(value);
+    Quantity quantity(ZString(L"wide")); // mostly invalid
+    quantity = value;
     SCOPED_TRACE(testing::Message() << value << " as unit " << quantity.getUnitId());
     EXPECT_EQ(wide(quantity), text);
     EXPECT_EQ(wide(static_cast<const Quantity&>(quantity)), text);

@@ -138,9 +138,10 @@ TEST(Rates, ConvertByAssignment) {
     checkAssigned<ZMillimeterPerSec>(ZSpi(2.0), 12.7);
     checkAssigned<ZCentimeterPerSec>(ZCentimeter(2.0), 2.0);
     checkAssigned<ZCentimeterPerSec>(ZSpi(2.0), 1.27);
+    checkAssigned<ZCentimeterPerSec>(ZMillimeter(5.0), 0.5);
+    checkAssigned<ZCentimeterPerSec>(ZInch(2.0), 5.08);
+    checkAssigned<ZCentimeterPerSec>(ZEmbPoint(2.0), 0.02);
     ZCentimeterPerSec speed(7.0);
-    speed = ZMillimeter(5.0);
-    EXPECT_EQ(double(speed), 0.5);
     speed = L"5 spi"; // densities are refused in text
     EXPECT_EQ(double(speed), 5.0);
     EXPECT_EQ(speed.getUnitId(), 12);
