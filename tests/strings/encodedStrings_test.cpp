@@ -175,6 +175,8 @@ TEST(EncodedSet, TakesTextOfBothTypes) {
     EXPECT_STREQ(narrow, "ab|cd|ef|gh|ij|kl");
     narrow.set("%C", systemLetter().unit[0]);
     EXPECT_STREQ(narrow, systemLetter().bytes.c_str());
+    narrow.set("%.3S", L"\xD800\xDBFF");
+    EXPECT_GT(narrow.length(), 0) << "two halves are no pair, and the first fits";
     ZWideString wideText;
     wideText.set(L"%s|%ls|%S|%hs|%c%C|%.2S", L"ab", L"cd", "ef", "gh", L'i', 'j', "klm");
     EXPECT_STREQ(wideText, L"ab|cd|ef|gh|ij|kl");

@@ -60,17 +60,23 @@ def digest():
     return made.hexdigest()
 
 
+def reason_of(key, reasons):
+    file, source, change, _ = key.split("\t")
+    return reasons.get((file, change, source))
+
+
 class Results:
     """A line a mutant, in a file that is read again when a run goes on."""
 
-    def __init__(self, path, keep, retry):
+    def __init__(self, path, keep, retry, reasons):
         self.path, self.rows, self.lock = path, {}, threading.Lock()
         state = digest()
         lines = [json.loads(line) for line in path.read_text().splitlines()] if path.exists() else []
         if keep or retry or lines and lines[0] == state:
             self.rows = {row["key"]: row for row in lines[1:]}
         if retry:
-            self.rows = {k: r for k, r in self.rows.items() if r["outcome"] != "survived"}
+            self.rows = {k: r for k, r in self.rows.items()
+                         if r["outcome"] != "survived" or reason_of(k, reasons)}
         path.write_text("".join(json.dumps(line) + "\n" for line in [state, *self.rows.values()]))
 
     def add(self, mutant, outcome, by, seconds):
@@ -125,19 +131,19 @@ def main():
     parser.add_argument("--benches", type=int, default=2, help="mutants tried at a time")
     parser.add_argument("--work", default=ROOT / "build/mutation")
     parser.add_argument("--keep", action="store_true", help="go on although the tree changed")
-    parser.add_argument("--retry", action="store_true", help="as well, and try survivors again")
+    parser.add_argument("--retry", action="store_true", help="as well, and try what survived without a reason again")
     options = parser.parse_args()
 
-    begin = time.monotonic()
     folders = [row for row in candidates(options.mutants, options.seed)
                if options.folder in (None, row[0])]
     shop = Workshop(ROOT, options.work)
     shop.prepare()
-    results = Results(shop.work / "results.jsonl", options.keep, options.retry)
+    reasons = report.read_reasons(Path(__file__).with_name("survivors.txt"))
+    results = Results(shop.work / "results.jsonl", options.keep, options.retry,
+                      reasons)
     benches = [Bench(shop, number + 1) for number in range(options.benches)]
     counted = judge(results, benches, folders)
-    report.write(counted, results.rows, Path(__file__).with_name("survivors.txt"),
-                 time.monotonic() - begin)
+    report.write(counted, results.rows, reasons)
 
 
 main()

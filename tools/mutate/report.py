@@ -20,8 +20,7 @@ def per_cent(part, whole):
     return f"{100 * part / whole:.1f} %" if whole else ""
 
 
-def write(mutants, rows, reasons_path, seconds):
-    reasons = read_reasons(reasons_path)
+def write(mutants, rows, reasons):
     table = collections.defaultdict(collections.Counter)
     explained, open_ones, used = [], [], set()
     for mutant in mutants:
