@@ -15,9 +15,9 @@ step() { echo "--- $*" >&2; }
 
 # median FORMAT COMMAND...: of five runs, with FORMAT as in TIMEFORMAT: %R real, %U user.
 median() {
-    local TIMEFORMAT=$1 run
+    local TIMEFORMAT=$1
     shift
-    for run in 1 2 3 4 5; do
+    for _ in 1 2 3 4 5; do
         { time "$@" >/dev/null 2>&1; } 2>&1
     done | sort -n | sed -n 3p
 }

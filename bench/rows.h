@@ -15,8 +15,10 @@ void quantityRows(Suite& suite);
 void threadRows(Suite& suite);
 void pointRows(Suite& suite);
 void geometryRows(Suite& suite);
-void rootRows(Suite& suite); // of the topic geometry
+void figureRows(Suite& suite); // of the topic geometry, as the next
+void rootRows(Suite& suite);
 void transformRows(Suite& suite);
+void chainRows(Suite& suite); // of the topic transforms
 void randomRows(Suite& suite);
 void identifierRows(Suite& suite);
 void bigIntegerRows(Suite& suite);

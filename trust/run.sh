@@ -11,6 +11,8 @@ trust_parts=(
     "locales:Locales"
     "platforms:The same bytes on both platforms"
     "memory:No memory"
+    "geometry:Degenerate geometry"
+    "analysis:Static analysis and hardening"
     "tests:How good the tests are"
 )
 
@@ -63,6 +65,7 @@ run_trials() {
         say "" "=== $part ==="
         start=$SECONDS status=0
         # In the background, because the shell would not stop at a failure inside of an `if`.
+        # shellcheck source=/dev/null
         (source "trust/$part.sh") >"build/trust/$part.new" </dev/null &
         wait $! || status=$?
         if ((status == 0)); then

@@ -1,6 +1,6 @@
 # What the tests run of the library, and which small changes of it they notice.
 
-need googletest >&2 || fail "Cannot test: $reason"
+need googletest python3 >&2 || fail "Cannot test: $reason"
 configure coverage ON >&2
 build coverage >&2
 find build/coverage -name '*.gcda' -delete # the counts of earlier runs

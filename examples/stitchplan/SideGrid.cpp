@@ -44,7 +44,7 @@ void SideGrid::add(int side) {
             std::swap(begin, end);
         // Rounding may place an end just across the border of a cell.
         for (int c = column(begin - 0.01); c <= column(end + 0.01); ++c)
-            cells_[static_cast<std::size_t>(r * count_ + c)].push_back(side);
+            cells_[place(c, r)].push_back(side);
     }
 }
 
@@ -56,8 +56,13 @@ int SideGrid::row(double y) const {
     return std::clamp(static_cast<int>((y - corner_.y) / cellHeight_), 0, count_ - 1);
 }
 
+std::size_t SideGrid::place(int column, int row) const {
+    return static_cast<std::size_t>(row) * static_cast<std::size_t>(count_) +
+           static_cast<std::size_t>(column);
+}
+
 const std::vector<int>& SideGrid::cell(int column, int row) const {
-    return cells_[static_cast<std::size_t>(row * count_ + column)];
+    return cells_[place(column, row)];
 }
 
 bool SideGrid::isCrossed(const DPoint& from, const DPoint& to) const {

@@ -23,6 +23,7 @@ private:
 
     int column(double x) const;
     int row(double y) const;
+    std::size_t place(int column, int row) const; ///< in cells_
     const std::vector<int>& cell(int column, int row) const;
     void add(int side);
 

@@ -124,7 +124,8 @@ def judge(results, benches, folders):
 
 
 def main():
-    parser = argparse.ArgumentParser(description=__doc__)
+    parser = argparse.ArgumentParser(
+        description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--mutants", type=int, default=600)
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--folder", help="of this folder only")

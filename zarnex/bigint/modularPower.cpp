@@ -116,7 +116,7 @@ SigUInt a_exp_b_mod_c(const SigUInt& a, const SigUInt& b, const SigUInt& c) {
     if (twos == 0)
         return a.powerModOdd(b, c);
 
-    const SigUInt low = a.powerModTwos(b, twos);
+    SigUInt low = a.powerModTwos(b, twos);
     const SigUInt odd = c >> twos;
     if (odd == 1)
         return low;

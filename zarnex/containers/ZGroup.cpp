@@ -11,6 +11,7 @@ namespace {
 constexpr int growth = 32; // members
 
 std::size_t bytes(int members) {
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): the members are kept as pointers
     return static_cast<std::size_t>(members) * sizeof(ZGroupable*);
 }
 

@@ -100,8 +100,8 @@ ZSortList<T>& ZSortList<T>::operator=(const ZSortList& source) {
 
 template <class T>
 ZSortList<T>& ZSortList<T>::operator=(ZSortList&& source) noexcept {
-    ZList<T>::operator=(std::move(source));
     ascending_ = source.ascending_;
+    ZList<T>::operator=(std::move(source));
     return *this;
 }
 

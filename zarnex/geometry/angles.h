@@ -16,8 +16,8 @@
 ZARNEX_API double atan3(double y, double x);
 
 /// The signed angle at the corner `b`, in radians: from the direction to `a` round to
-/// the direction to `c`, above 0 counter-clockwise, from -pi to pi. A straight line may
-/// have either. A point that coincides with `b` counts as lying straight below it.
+/// the direction to `c`, above 0 counter-clockwise, at most 3.141592654 in size. A straight
+/// line may have either sign. A point that coincides with `b` counts as lying straight below it.
 /// NaN with a NaN.
 ///
 /// Kept as is: differences of IPoint are 32-bit integers and wrap, those of 16-bit

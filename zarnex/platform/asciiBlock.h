@@ -84,7 +84,7 @@ private:
         const __m128i zero = _mm_setzero_si128();
         const __m128i halves[] = {_mm_unpacklo_epi8(bytes, zero), _mm_unpackhi_epi8(bytes, zero)};
         auto* const next = reinterpret_cast<__m128i*>(out);
-        for (int i = 0; i < 2; ++i) {
+        for (std::ptrdiff_t i = 0; i < 2; ++i) {
             if constexpr (sizeof(wchar_t) == 2) {
                 _mm_storeu_si128(next + i, halves[i]);
             } else {

@@ -199,7 +199,7 @@ std::size_t sizeOf(const Byte* text, const Byte* end) {
 // The bytes that `unit` takes, two for each half of a pair of surrogates: where `next`
 // completes one, two are taken off.
 inline Unit bytesOf(wchar_t at, wchar_t next) {
-    const auto unit = static_cast<Unit>(at);
+    const auto unit = static_cast<Unit>(at); // NOLINT(bugprone-signed-char-misuse): it is none
     const int size = 1 + (unit >= 0x80) + (unit >= 0x800);
     if constexpr (sizeof(wchar_t) == 2) {
         const bool isPair = (unit & 0xFC00) == 0xD800 && (next & 0xFC00) == 0xDC00;

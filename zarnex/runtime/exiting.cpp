@@ -22,5 +22,5 @@ void zarnex::exitFatally(const char* message, int status) {
     if (message != nullptr)
         std::fputs(message, stderr);
     setExiting();
-    std::exit(status);
+    std::exit(status); // NOLINT(concurrency-mt-unsafe): any thread may ask
 }

@@ -62,6 +62,7 @@ constexpr Kernels kernelsOf = {Rows::addMultiple, multiplyByRows<Rows>, multiply
 
 const Kernels& fastest() {
 #if defined(ZARNEX_CHAINED_ROWS)
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): only reads, and once
     if (hasChainedRows() && std::getenv("ZARNEX_PLAIN_KERNELS") == nullptr)
         return kernelsOf<ChainedRows>;
 #endif

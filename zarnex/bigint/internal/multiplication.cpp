@@ -28,7 +28,7 @@ bool subtractAbsolute(Limb* out, const Limb* a, Size aCount, const Limb* b, Size
 
 // The scratch of multiplyHalves: twice the halves of every level.
 Size scratchFor(Size count) {
-    return 2 * count + 2 * limbBits;
+    return 2 * (count + limbBits);
 }
 
 // out = a * b, both of `count` limbs; a == b means a square.

@@ -57,8 +57,9 @@ void appendPieces(TextBuffer<Char>& out, const Pieces& pieces, const NumberLayou
         out.append(Char{' '}, padding);
 }
 
-void capitalise(char* begin, char* end) {
+void capitalise(char* begin, const char* end) {
     for (; begin != end; ++begin) {
+        // NOLINTNEXTLINE(clang-analyzer-core.UndefinedBinaryOperatorResult): std::to_chars wrote it
         if (*begin >= 'a' && *begin <= 'z')
             *begin = static_cast<char>(*begin - 'a' + 'A');
     }
@@ -147,6 +148,7 @@ void appendDouble(TextBuffer<Char>& out, double value, char conversion,
             addSign(pieces, value < 0, layout);
         pieces.digits = room;
         pieces.digitCount = 3;
+        // NOLINTNEXTLINE(bugprone-not-null-terminated-result): the digits are counted
         std::memcpy(room, std::isnan(value) ? "nan" : "inf", 3);
         if (capital)
             capitalise(room, room + 3);

@@ -1,0 +1,263 @@
+#include <zarnex/transforms/CompositeTrans.h>
+#include <zarnex/transforms/IdTrans.h>
+#include <zarnex/transforms/ReverseTrans.h>
+#include <zarnex/transforms/ZHashablePointer.h>
+#include <zarnex/transforms/elementaryTransforms.h>
+
+#include "grid.h"
+
+#include <utility>
+
+namespace {
+
+using Matrix = Z2DMatrix<double>;
+using AnyShape = ZMatrix<double>;
+
+bool sameElements(const AnyShape& a, const AnyShape& b) {
+    if (!a.rangeCheck(b.getRows(), b.getCols()))
+        return false;
+    for (int r = 0; r < a.getRows(); ++r)
+        for (int c = 0; c < a.getCols(); ++c)
+            if (!same(a(r, c), b(r, c)))
+                return false;
+    return true;
+}
+
+Matrix matrixOf(const DPoint& p, const DPoint& q) {
+    const double elements[] = {p.x, p.y, q.x, q.y};
+    return Matrix(AnyShape(2, 2, elements));
+}
+
+TEST(DegenerateMatrices, RefusedOperationsWriteNothing) {
+    for (const DPoint& p : places()) {
+        for (const DPoint& q : places()) {
+            SCOPED_TRACE(testing::Message() << p.x << " " << p.y << " " << q.x << " " << q.y);
+            const Matrix m = matrixOf(p, q), other = matrixOf(DPoint(3, 5), DPoint(7, 11));
+            EXPECT_TRUE(same(m.det(), p.x * q.y - p.y * q.x));
+            Matrix inverse = other, inPlace = m, solved = m;
+            AnyShape right = other;
+            const int singular = m.invert(inverse);
+            EXPECT_EQ(singular, std::fabs(m.det()) <= 1e-9 ? 2 : 0);
+            EXPECT_EQ(inPlace.invert(), singular);
+            EXPECT_EQ(solved.solve(right), singular);
+            EXPECT_TRUE(sameElements(inPlace, singular == 0 ? inverse : m));
+            EXPECT_TRUE(singular == 0 ||
+                        (sameElements(inverse, other) && sameElements(right, other)));
+            Matrix product = m, general = m, turned = other;
+            product *= other;
+            EXPECT_EQ(m.multiply(other, static_cast<AnyShape&>(general)), 0);
+            EXPECT_EQ(m.multiply(other, turned), 0);
+            EXPECT_TRUE(sameElements(product, turned));
+            EXPECT_EQ(m.multiply(static_cast<const AnyShape&>(other), turned), 0);
+            EXPECT_TRUE(sameElements(general, turned)) << "in the order of the general form";
+            EXPECT_EQ(m.transpose(turned), 0);
+            EXPECT_TRUE(sameElements(turned, matrixOf(DPoint(p.x, q.x), DPoint(p.y, q.y))));
+            EXPECT_TRUE(sameElements((Matrix(m) += other) -= m, (Matrix(other) += m) -= m));
+            for (const double s : numbers())
+                EXPECT_TRUE(sameElements(Matrix(m) *= s, matrixOf(p * s, q * s)));
+
+            Z2DTrans rest(DVector(1, 2), DVector(3, 4)), t(DVector(p.x, p.y), DVector(q.x, q.y));
+            const Z2DTrans before = rest;
+            for (const int count : {1, 7, INT_MAX, 0, INT_MIN}) {
+                double sx = 1, sy = 1;
+                int nx = count, ny = count;
+                const int status = t.split(rest, sx, sy, nx, ny);
+                EXPECT_TRUE(status == 0 || status == 1);
+                EXPECT_TRUE(status == 0 ||
+                            (sameElements(rest, before) && nx == count && ny == count));
+                rest = before;
+            }
+            const DVector moved = t * DVector(p.x, p.y);
+            EXPECT_TRUE(samePlace(t * p, DPoint(moved.x, moved.y)));
+            const DPoint image = t * DPoint(INT_MIN, INT_MAX);
+            IVector ints(INT_MIN, INT_MAX);
+            EXPECT_TRUE(samePlace(ints *= t, IVector(zarnex::roundToNearestInt(image.x),
+                                                     zarnex::roundToNearestInt(image.y))));
+        }
+    }
+}
+
+// Lets hosts' derived classes reach the exchanges.
+struct Exchanges : AnyShape {
+    using AnyShape::AnyShape;
+    using AnyShape::swap;
+    using AnyShape::swapCol;
+    using AnyShape::swapRow;
+};
+
+// What is refused leaves the shape and the elements; what is taken has those of its source.
+template <class Step>
+void expectTaken(const AnyShape& wide) {
+    Step step, other(step);
+    Z2DTrans whole;
+    EXPECT_TRUE(sameElements(step, Matrix()) && sameElements(whole, other));
+    other = wide;
+    step = other;
+    whole = wide;
+    EXPECT_TRUE(sameElements(step, wide) && sameElements(whole, wide));
+    EXPECT_EQ(step.transpose(), 1);
+    EXPECT_TRUE(same(step.det(), 0.0) && sameElements(step.rotate(NAN).xShear(1), wide));
+    EXPECT_TRUE(samePlace(step * DPoint(3, HUGE_VAL), DPoint(3, HUGE_VAL)));
+}
+
+TEST(DegenerateTransforms, OfAnotherShapeAreLeftAlone) {
+    AnyShape wide(2, 3, nullptr);
+    double least = DBL_TRUE_MIN, most = -DBL_MAX;
+    Exchanges::swap(least, most);
+    for (int i = 0; i < 6; ++i)
+        wide.set(i / 3, i % 3, i == 4 ? NAN : least);
+    wide.get(0, 0) = wide(1, 1) = most;
+    expectTaken<Z2DRotate>(wide);
+    expectTaken<Z2DXScale>(wide);
+    expectTaken<Z2DYScale>(wide);
+    expectTaken<Z2DXShear>(wide);
+    expectTaken<Z2DYShear>(wide);
+    Matrix m(wide), before = m;
+    int rank = 7;
+    EXPECT_TRUE(m.invert(wide) == 1 && m.guassianReduction(wide, rank) == 0 && rank == 7);
+    EXPECT_TRUE(m.transpose() == 0 && m.transpose() == 0 && sameElements(m, before));
+    m.clear();
+    EXPECT_EQ(m.invert(), 2);
+    m.identity();
+    EXPECT_TRUE(sameElements(m, before) && same(std::as_const(wide).get(0, 0), most));
+}
+
+TEST(DegenerateTransforms, EveryStepIsTheProductOnTheLeft) {
+    for (const DPoint& p : places()) {
+        for (const double s : numbers()) {
+            const DVector v(p.x, p.y), u(s, p.x);
+            const Z2DTrans start(v, DVector(s, 2));
+            const Z2DTrans steps[] = {Z2DRotate(s), Z2DRotate(v), Z2DRotate(u, v), Z2DXScale(s),
+                                      Z2DYScale(s), Z2DXShear(s), Z2DYShear(s)};
+            for (const Z2DTrans& step : steps) {
+                Z2DTrans composed = start;
+                composed.compose(step);
+                Matrix product = step;
+                product *= start;
+                EXPECT_TRUE(sameElements(composed, product));
+            }
+            const bool finite = std::isfinite(p.x) && std::isfinite(p.y) && std::isfinite(s);
+            Z2DTrans byName[] = {start, start, start, start, start, start};
+            byName[0].rotate(s);
+            byName[1].rotate(u, v);
+            byName[2].xScale(s);
+            byName[3].yScale(s);
+            byName[4].xShear(s);
+            byName[5].yShear(s);
+            const int step[] = {0, 2, 3, 4, 5, 6};
+            for (int i = 0; i < 6; ++i) {
+                Z2DTrans composed = start;
+                composed.compose(steps[step[i]]);
+                EXPECT_TRUE(!finite || sameElements(byName[i], composed))
+                    << i << " " << p.x << " " << s;
+            }
+            Z2DTrans t = start;
+            t.rotateInDegree(s).scale(s, p.x).mirror().flip().rotate(v);
+            DPoint place = p;
+            place *= t;
+            IPoint whole(INT_MAX, -1);
+            whole *= t;
+            DVector way = v;
+            way *= t;
+            EXPECT_TRUE(samePlace(place, t * p) && samePlace(way, t * v));
+        }
+    }
+}
+
+TEST(DegenerateMatrices, OfAnyShape) {
+    const int refused[][2] = {{-1, 3}, {3, -1}, {INT_MIN, INT_MIN}, {INT_MAX, 2}, {65536, 32768}};
+    for (const auto& [rows, cols] : refused) {
+        AnyShape none(rows, cols, nullptr), copy(none);
+        EXPECT_TRUE(copy.rangeCheck(0, 0) && copy.identity() == 0 &&
+                    copy.multiply(none, copy) == 0);
+    }
+    for (int shape = 0; shape < 16; ++shape) {
+        const int rows = shape / 4, cols = shape % 4;
+        SCOPED_TRACE(shape);
+        Exchanges m(rows, cols, nullptr);
+        m.clear();
+        EXPECT_TRUE(m.rangeCheck(rows, cols));
+        AnyShape copy(m), out(cols, rows, nullptr);
+        EXPECT_EQ(m.identity(), rows == cols ? 0 : 1);
+        EXPECT_EQ(m.transpose(out), 0);
+        EXPECT_EQ(m.invert(copy), 0);
+        EXPECT_EQ(m.det(), 0.0);
+        int rank = 7;
+        EXPECT_TRUE(m.solve(copy) == 0 && m.guassianReduction(copy, rank) == 0 && rank == 7);
+        const AnyShape before(m);
+        for (const int i : {-1, INT_MIN, INT_MAX, rows, cols}) {
+            m.swapRow(i, i < 0 ? 0 : rows);
+            m.swapCol(cols, i);
+        }
+        EXPECT_TRUE(sameElements(m, before));
+        copy = m;
+        copy += copy;
+        copy -= out;
+        copy *= NAN;
+        EXPECT_EQ(m.multiply(out, copy), rows == cols ? 0 : 1);
+        Matrix small(m);
+        EXPECT_TRUE(small.rangeCheck(2, 2));
+        small = m;
+        EXPECT_EQ(small.multiply(small, small), rows == cols ? 0 : 1);
+        EXPECT_EQ(small.invert(), rows == 2 && cols == 2 ? 0 : 1);
+        EXPECT_EQ(small.det(), rows == 2 && cols == 2 ? 1.0 : 0.0);
+        small += static_cast<const AnyShape&>(m);
+        small -= static_cast<const AnyShape&>(m);
+        EXPECT_EQ(small.transpose(static_cast<AnyShape&>(out)), 0);
+    }
+}
+
+// A host's own map, with the bodies that stand in the base class.
+struct Own : ArbTrans<DPoint> {
+    DPoint transform(const DPoint& p) override {
+        return ArbTrans<DPoint>::transform(p);
+    }
+    DPoint reverseTransform(const DPoint& p) override {
+        return ArbTrans<DPoint>::reverseTransform(p);
+    }
+};
+
+TEST(DegenerateChains, OfIdentitiesAreTheIdentity) {
+    Own own;
+    IdTrans<DPoint> id;
+    ReverseTrans<DPoint> none(nullptr, 1), back(&own, 0);
+    CompositeTrans<DPoint> chain(0), copy(chain), other;
+    chain.addTrans(nullptr);
+    chain.addTrans(&back);
+    chain.addTrans(&chain);
+    chain.addTrans(&none);
+    other = chain;
+    for (const DPoint& p : places()) {
+        const DPoint images[] = {
+            id.transform(id.reverseTransform(p)), back.transform(back.reverseTransform(p)),
+            none.transform(none.reverseTransform(p)), chain.transform(chain.reverseTransform(p)),
+            other.transform(copy.reverseTransform(p))};
+        for (const DPoint& image : images)
+            EXPECT_TRUE(samePlace(image, p));
+    }
+}
+
+TEST(DegenerateChains, PointersAreInTheOrderOfAddresses) {
+    using Pointer = ZHashablePointer<ArbTrans<DPoint>>;
+    Own own[2];
+    ArbTrans<DPoint>* const addresses[] = {nullptr, &own[0], &own[1]};
+    for (int i = 0; i < 3; ++i) {
+        for (int k = 0; k < 3; ++k) {
+            Pointer a(addresses[i]);
+            const Pointer b(addresses[k]);
+            const ArbTrans<DPoint>* plain = addresses[k];
+            EXPECT_TRUE((a == b) == (i == k) && (a != b) == (i != k) && (a < b) == (i < k));
+            EXPECT_TRUE((a > b) == (i > k) && (a == plain) == (i == k) && (a < plain) == (i < k));
+            EXPECT_TRUE((a > plain) == (i > k) && (a != plain) == (i != k));
+            EXPECT_TRUE(a.getPointer() == addresses[i] && b.getPointer() == plain);
+            EXPECT_TRUE(static_cast<ArbTrans<DPoint>*>(b) == plain &&
+                        (i != k || a.hash() == b.hash()));
+            if (k != 0) {
+                EXPECT_TRUE(&*b == plain && b.operator->() == plain);
+            }
+        }
+    }
+    EXPECT_TRUE(Pointer() == nullptr && Pointer().hash() == 0);
+}
+
+} // namespace
