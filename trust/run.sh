@@ -11,7 +11,11 @@ trust_parts=(
     "locales:Locales"
     "platforms:The same bytes on both platforms"
     "memory:No memory"
+    "threads:Threads"
     "geometry:Degenerate geometry"
+    "boundary:The boundary of the shared library"
+    "headers:Headers"
+    "abi:Binary compatibility"
     "analysis:Static analysis and hardening"
     "tests:How good the tests are"
 )
