@@ -18,6 +18,7 @@ trust_parts=(
     "headers:Headers"
     "abi:Binary compatibility"
     "analysis:Static analysis and hardening"
+    "tests:How good the tests are"
 )
 
 trust_page=docs/reliability.md
