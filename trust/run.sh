@@ -8,11 +8,17 @@
 # The parts in the order of the page, each with its heading.
 trust_parts=(
     "grammar:What typed quantities mean"
+    "fuzzing:Fuzzing"
     "locales:Locales"
     "platforms:The same bytes on both platforms"
     "memory:No memory"
+    "threads:Threads"
     "geometry:Degenerate geometry"
+    "boundary:The boundary of the shared library"
+    "headers:Headers"
+    "abi:Binary compatibility"
     "analysis:Static analysis and hardening"
+    "tests:How good the tests are"
 )
 
 trust_page=docs/reliability.md

@@ -37,6 +37,24 @@
 #define ZARNEX_TEMPLATE_INLINE inline
 #endif
 
+/// Marks what takes or holds wide text. The libraries have the wchar_t of their platform, 2
+/// bytes on Windows and 4 elsewhere. Where a host is compiled with the other one
+/// (-fshort-wchar), the mark becomes part of the names, so that they are not found when the
+/// host is linked; what has nothing to do with wide text goes on to work.
+#if !defined(__SIZEOF_WCHAR_T__)
+#define ZARNEX_WIDE
+#elif defined(_WIN32) && __SIZEOF_WCHAR_T__ != 2
+#define ZARNEX_WIDE __attribute__((abi_tag("wchar_t_of_4_bytes")))
+#elif !defined(_WIN32) && __SIZEOF_WCHAR_T__ != 4
+#define ZARNEX_WIDE __attribute__((abi_tag("wchar_t_of_2_bytes")))
+#else
+#define ZARNEX_WIDE
+#endif
+
+// Declared here once for the headers that need no more: a mark belongs to all declarations.
+class ZARNEX_WIDE ZString;
+class ZARNEX_WIDE ZGenericString;
+
 /// A condition that hardly ever holds. The hint keeps compilers from turning the
 /// branch into a conditional move, which would slow each step along a list.
 #if defined(__GNUC__)

@@ -1,4 +1,4 @@
-// A host that takes every member of every exported array from the shared library.
+// A host that takes every member of every exported array and list from the shared library.
 
 #include <zarnex/foundation.h>
 
@@ -59,12 +59,54 @@ int use(const ZXArray<T>& given) {
     return faults + (Derived<T>().grow() != 32);
 }
 
+template <class T>
+int use(const ZList<T>& given) {
+    const T value{};
+    ZList<T> list{value, value};
+    T* const first = &list[0];
+    T* const added = &list.add(value);
+    list.insert(value, 1);
+    int faults = list.length() != 4 || &list(3) != added || &list[0] != first;
+    faults += list.move(0, 3) != 1;
+
+    ZList<T> other(list);
+    faults += other != list || !(other == list) || other.find(value) != 0;
+    list.join(other);
+    list.inject(other, 0);
+    list += other;
+    list.remove(0);
+    list.removeByIndex(0);
+    auto position = list.it(1);
+    list.remove(position);
+    list.remove(list.it(0));
+    faults += list.length() != 4 || other.length() != 0;
+
+    int seen = 0;
+    const auto isLast = [](T, void* left) { return --*static_cast<int*>(left) == 0 ? 1 : 0; };
+    const auto count = [](T, void* sum) { ++*static_cast<int*>(sum); };
+    list.forEach(count, &seen);
+    for (auto at = list.rbegin(); at != list.rend(); ++at)
+        ++seen;
+    const ZList<T>& constant = list;
+    for (auto at = constant.begin(); at != constant.end(); ++at)
+        ++seen;
+    int left = 2;
+    faults += seen != 12 || list.firstThat(isLast, &left) != &list[1];
+
+    ZList<T> moved(std::move(list));
+    other = moved;
+    other = std::move(moved);
+    faults += other.length() != 4;
+    other.empty();
+    return faults + (other.length() != 0) + (given.length() != 0) + (&other[0] != &given[0]);
+}
+
 } // namespace
 
 int main() {
     int faults = 0;
-    int arrays = 0;
-#include "arrays.inc" // a line for each exported array: faults += use(ZXArray<int>()), ++arrays;
-    std::printf("%d arrays, %d faults\n", arrays, faults);
-    return faults != 0 || arrays == 0;
+    int containers = 0;
+#include "containers.inc" // a line for each: faults += use(ZXArray<int>()), ++containers;
+    std::printf("%d containers, %d faults\n", containers, faults);
+    return faults != 0 || containers == 0;
 }

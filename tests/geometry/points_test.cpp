@@ -101,8 +101,8 @@ TYPED_TEST(Points, RoundingMembersTakeHalvesAwayFromZero) {
     using P = TypeParam;
     P p(3, -5);
     EXPECT_TRUE(at(p.roundScale(0.5, 0.5), 2, -3));
-    const double m[2][3] = {{0.5, 1.0, 2.0}, {1.0, -0.25, -1.0}};
-    // 1 - 3 + 2 * 0.25 = -1.5 and 2 + 0.75 - 0.25 = 2.5
+    const double m[2][3] = {{0.5, 1.0, 2.0}, {1.0, -0.5, -4.0}};
+    // 1 - 3 + 2 * 0.25 = -1.5 and 2 + 1.5 - 4 * 0.25 = 2.5
     EXPECT_TRUE(at(p.matrixRot(m, 0.25), -2, 3)); // both rows see the old point
     EXPECT_TRUE(at(p.matrixRot(nullptr, 1.0), -2, 3));
 }

@@ -100,6 +100,7 @@ TEST(Roots, ComeInTheirOrderWithinAbsoluteBounds) {
         {fixed, {1, 0, 1}, {}},
         {fixed, {-1, 0, 4}, {2, -2}},
         {fixed, {1, -3, 2}, {1, 2}},
+        {fixed, {2, -8, 8}, {2}},
         {fixed, {1e-10, 2, 0}, {0, -2 / 1e-10}},
         {fixed, {1, 2, 1 - 9e-6 / 4}, {-1}}, // a discriminant of 9e-6, -9e-6, -1.1e-5
         {fixed, {1, 2, 1 + 9e-6 / 4}, {-1}},

@@ -90,6 +90,7 @@ TEST(DVector, NormalizesBySquaredLength) {
 TEST(DVector, ToleranceDecidesTheSense) {
     EXPECT_EQ(DVector(1, 0).isSameSense(DVector(-0.9e-9, 1)), 1);
     EXPECT_EQ(DVector(1, 0).isSameSense(DVector(-1e-9, 1)), 0);
+    EXPECT_EQ(DVector(1, 0).isSameSense(DVector(1e-9, -1)), 1);
     EXPECT_EQ(DVector(1, 0).isSameSense(DVector(std::nan(""), 1)), 0);
 }
 

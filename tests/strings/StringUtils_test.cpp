@@ -191,7 +191,15 @@ TEST(StringUtils, PathsAreBuiltWithTheMarksThatPartsLack) {
         char tight[5] = "####";
         StringUtils::makePath(tight, 4, row.drive, row.dir, row.name, row.ext);
         EXPECT_EQ(tight, std::string(row.path).substr(0, 3));
+        StringUtils::makePath(tight, 1, row.drive, row.dir, row.name, row.ext);
+        EXPECT_STREQ(tight, "");
     }
+}
+
+TEST(StringUtils, WidePathsAreBuiltAlike) {
+    wchar_t path[12] = L"old";
+    StringUtils::makePath(path, 12, L"C", L"dir", L"f", L"txt");
+    EXPECT_STREQ(path, L"C:dir\\f.txt");
 }
 
 TEST(StringUtils, FixnameReplacesTheExtension) {

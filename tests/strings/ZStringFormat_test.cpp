@@ -32,6 +32,7 @@ TEST(ZStringSet, FormatsNumbers) {
     EXPECT_EQ(formatted(L"%hd %hhd %hu %hhx", 65537, 257, 65537, 0x1FF), L"1 1 1 ff");
     EXPECT_EQ(formatted(L"%ld %lld %I64d %zu", -1L, LLONG_MIN, LLONG_MAX, std::size_t{7}),
               L"-1 -9223372036854775808 9223372036854775807 7");
+    EXPECT_EQ(formatted(L"%lu %llu", 7ul, ULLONG_MAX), L"7 18446744073709551615");
     EXPECT_EQ(formatted(L"%I32d %Iu %jd %td %d", 7, std::size_t{8}, std::intmax_t{-9},
                         std::ptrdiff_t{-1}, 2),
               L"7 8 -9 -1 2");

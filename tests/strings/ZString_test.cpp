@@ -232,6 +232,7 @@ TEST(ZString, OperatorsIgnoreCaseAndIsEqualDoesNot) {
     EXPECT_TRUE(string > L"A" && L"A" < string && "A" < string && string > "A");
     EXPECT_TRUE(string < L"C" && L"C" > string && string <= pointer && pointer >= string);
     EXPECT_TRUE(string <= ZString(L"B") && string >= ZString(L"B") && L"A" <= string);
+    EXPECT_FALSE(string < ZString(L"B") || string > ZString(L"B") || string != ZString(L"B"));
     EXPECT_EQ(string.allocLength(), 2);
 }
 

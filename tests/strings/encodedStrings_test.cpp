@@ -173,6 +173,10 @@ TEST(EncodedSet, TakesTextOfBothTypes) {
     ZMultiByteString narrow;
     narrow.set("%s|%hs|%S|%ls|%c%C|%.2S", "ab", "cd", L"ef", L"gh", 'i', L'j', L"klm");
     EXPECT_STREQ(narrow, "ab|cd|ef|gh|ij|kl");
+    narrow.set("%C", systemLetter().unit[0]);
+    EXPECT_STREQ(narrow, systemLetter().bytes.c_str());
+    narrow.set("%.3S", L"\xD800\xDBFF");
+    EXPECT_GT(narrow.length(), 0) << "two halves are no pair, and the first fits";
     ZWideString wideText;
     wideText.set(L"%s|%ls|%S|%hs|%c%C|%.2S", L"ab", L"cd", "ef", "gh", L'i', 'j', "klm");
     EXPECT_STREQ(wideText, L"ab|cd|ef|gh|ij|kl");

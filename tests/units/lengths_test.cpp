@@ -148,9 +148,9 @@ TEST(Lengths, RenderWithTheirLabels) {
         EXPECT_EQ(wide(millimeter), row.millimeter);
         EXPECT_EQ(wide(constMillimeter.getString()), row.millimeter);
         EXPECT_EQ(wide(constMillimeter), row.constMillimeter);
-        EXPECT_EQ(wide(ZCentimeter(row.value)), row.centimeter);
-        EXPECT_EQ(wide(ZInch(row.value)), row.inch);
-        EXPECT_EQ(wide(ZEmbPoint(row.value)), row.point);
+        checkText<ZCentimeter>(row.value, row.centimeter);
+        checkText<ZInch>(row.value, row.inch);
+        checkText<ZEmbPoint>(row.value, row.point);
     }
     EXPECT_EQ(wide(ZMillimeter(2.5).getString(7, 3)), L"  2.500 mm");
     EXPECT_EQ(wide(ZMillimeter(2.5).getDensityString(-6, 1)), L"2.5    mm");
@@ -295,16 +295,10 @@ TEST(Lengths, CompareEachByTheirOwnRule) {
         {infinity, infinity, false, true, true, false}, // their difference is no number
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE(testing::Message() << row.a << " " << row.b);
-        EXPECT_EQ(ZMillimeter(row.a) == ZMillimeter(row.b), row.millimeter);
-        EXPECT_EQ(ZMillimeter(row.a) != ZMillimeter(row.b), !row.millimeter);
-        EXPECT_EQ(ZCentimeter(row.a) == ZCentimeter(row.b), row.centimeter);
-        EXPECT_EQ(ZInch(row.a) == ZInch(row.b), row.inch);
-        EXPECT_EQ(ZEmbPoint(row.a) == ZEmbPoint(row.b), row.point);
-        EXPECT_EQ(ZMillimeter(row.a) < ZMillimeter(row.b), row.a < row.b);
-        EXPECT_EQ(ZCentimeter(row.a) < ZCentimeter(row.b), row.a < row.b);
-        EXPECT_EQ(ZInch(row.a) < ZInch(row.b), row.a < row.b);
-        EXPECT_EQ(ZEmbPoint(row.a) < ZEmbPoint(row.b), row.a < row.b);
+        checkCompared<ZMillimeter>(row.a, row.b, row.millimeter);
+        checkCompared<ZCentimeter>(row.a, row.b, row.centimeter);
+        checkCompared<ZInch>(row.a, row.b, row.inch);
+        checkCompared<ZEmbPoint>(row.a, row.b, row.point);
     }
 }
 

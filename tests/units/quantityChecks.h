@@ -2,13 +2,17 @@
 
 #include "tests/support.h"
 
-/// Checks what a quantity class reads from `text`.
+/// Checks what a quantity class reads from `text`, made from it and assigned.
 template <class Quantity>
 void checkRead(const wchar_t* text, double value, int valid = 1) {
     SCOPED_TRACE(testing::Message() << shown(text) << " as unit " << Quantity().getUnitId());
     const Quantity read{ZString(text)};
     EXPECT_EQ(double(read), value);
     EXPECT_EQ(read.isValid(), valid);
+    Quantity assigned(7.0);
+    assigned = ZString(text);
+    EXPECT_EQ(double(assigned), value);
+    EXPECT_EQ(assigned.isValid(), valid);
 }
 
 /// Assigns `source` to a valid Target of 7.0 and checks what comes out;
@@ -22,4 +26,27 @@ void checkAssigned(const Source& source, double value) {
     EXPECT_EQ(double(target), value);
     EXPECT_EQ(target.isValid(), source.isValid());
     EXPECT_EQ(double(Target(source)), value);
+}
+
+/// Checks ==, != and < of two values, which are the same or not by the rule of the class.
+template <class Quantity>
+void checkCompared(double left, double right, bool same) {
+    const Quantity a(left), b(right);
+    SCOPED_TRACE(testing::Message() << left << " and " << right << " as unit " << a.getUnitId());
+    EXPECT_EQ(a == b, same);
+    EXPECT_EQ(a != b, !same);
+    EXPECT_EQ(a < b, double(a) < double(b));
+    EXPECT_EQ(b < a, double(b) < double(a));
+}
+
+/// Checks the text of a value, also where it is asked for in a unit that the class ignores.
+template <class Quantity>
+void checkText(double value, const wchar_t* text, int ignoredUnit = -1) {
+    Quantity quantity(ZString(L"wide")); // mostly invalid
+    quantity = value;
+    SCOPED_TRACE(testing::Message() << value << " as unit " << quantity.getUnitId());
+    EXPECT_EQ(wide(quantity), text);
+    EXPECT_EQ(wide(static_cast<const Quantity&>(quantity)), text);
+    EXPECT_EQ(wide(quantity.getStringWithUnits(ignoredUnit)), text);
+    EXPECT_EQ(quantity.isValid(), 1);
 }

@@ -63,20 +63,13 @@ TEST(ZSquareCentimeter, ReadsItsOwnUnitOnly) {
 }
 
 TEST(Rates, Render) {
-    ZSpi spi(12.7);
-    EXPECT_EQ(wide(spi), L"12.7 spi");
-    EXPECT_EQ(wide(static_cast<const ZSpi&>(spi)), L"12.7 spi");
-    EXPECT_EQ(wide(spi.getString(7, 2)), L"  12.70 spi");
-    ZSquareCentimeter area(5.0);
-    EXPECT_EQ(wide(area), L" 5.0 per sq cm");
-    EXPECT_EQ(wide(static_cast<const ZSquareCentimeter&>(area)), L" 5.0 per sq cm");
-    EXPECT_EQ(wide(area.getStringWithUnits(2)), L" 5.0 per sq cm");
-    EXPECT_EQ(wide(area.getString(1, 0)), L"5 per sq cm");
+    checkText<ZSpi>(12.7, L"12.7 spi");
+    checkText<ZSquareCentimeter>(5.0, L" 5.0 per sq cm", 2);
+    checkText<ZCentimeterPerSec>(1.2, L"1.20 cm/s", 2);
+    EXPECT_EQ(wide(ZSpi(12.7).getString(7, 2)), L"  12.70 spi");
+    EXPECT_EQ(wide(ZSquareCentimeter(5.0).getString(1, 0)), L"5 per sq cm");
     ZCentimeterPerSec slow(ZString(L"12 mm"));
-    EXPECT_EQ(wide(slow), L"1.20 cm/s");
-    EXPECT_EQ(wide(static_cast<const ZCentimeterPerSec&>(slow)), L"1.20 cm/s");
     EXPECT_EQ(wide(slow.getString(6, 1)), L"   1.2 cm/s");
-    EXPECT_EQ(wide(slow.getStringWithUnits(2)), L"1.20 cm/s");
     EXPECT_EQ(wide(slow.getDensityStringWithUnits(2)), L"12.00 mm");
     EXPECT_EQ(wide(slow.getDensityStringWithUnits(4)), L"1.20 cm/s");
     const ZCentimeter& constBase = slow;
@@ -145,9 +138,10 @@ TEST(Rates, ConvertByAssignment) {
     checkAssigned<ZMillimeterPerSec>(ZSpi(2.0), 12.7);
     checkAssigned<ZCentimeterPerSec>(ZCentimeter(2.0), 2.0);
     checkAssigned<ZCentimeterPerSec>(ZSpi(2.0), 1.27);
+    checkAssigned<ZCentimeterPerSec>(ZMillimeter(5.0), 0.5);
+    checkAssigned<ZCentimeterPerSec>(ZInch(2.0), 5.08);
+    checkAssigned<ZCentimeterPerSec>(ZEmbPoint(2.0), 0.02);
     ZCentimeterPerSec speed(7.0);
-    speed = ZMillimeter(5.0);
-    EXPECT_EQ(double(speed), 0.5);
     speed = L"5 spi"; // densities are refused in text
     EXPECT_EQ(double(speed), 5.0);
     EXPECT_EQ(speed.getUnitId(), 12);
@@ -166,13 +160,12 @@ TEST(Rates, AssigningZeroGivesZeroWhereReadingGivesInfinity) {
 }
 
 TEST(Rates, CompareExactlyExceptMillimetersPerSecond) {
-    EXPECT_FALSE(ZSpi(1.0) == ZSpi(1.0 + 1e-10));
-    EXPECT_FALSE(ZSquareCentimeter(1.0) == ZSquareCentimeter(1.0 + 1e-10));
-    EXPECT_FALSE(ZCentimeterPerSec(1.0) == ZCentimeterPerSec(1.0 + 1e-10));
-    EXPECT_TRUE(ZMillimeterPerSec(1.0) == ZMillimeterPerSec(1.0 + 1e-10));
-    EXPECT_TRUE(ZMillimeterPerSec(1.0) != ZMillimeterPerSec(1.0 + 1e-8));
-    EXPECT_TRUE(ZSpi(1.0) < ZSpi(1.0 + 1e-10));
-    EXPECT_TRUE(ZSquareCentimeter(1.0) < ZSquareCentimeter(2.0));
+    for (const double apart : {0.0, 1e-10, 1.1e-9, 1.0}) {
+        checkCompared<ZSpi>(1.0, 1.0 + apart, apart == 0.0);
+        checkCompared<ZSquareCentimeter>(1.0, 1.0 + apart, apart == 0.0);
+        checkCompared<ZCentimeterPerSec>(1.0, 1.0 + apart, apart == 0.0);
+        checkCompared<ZMillimeterPerSec>(1.0, 1.0 + apart, apart < 1e-9);
+    }
     EXPECT_TRUE(ZSpi(2.0) == 2);
     EXPECT_TRUE(ZCentimeterPerSec(2.0) == 2.0);
 }

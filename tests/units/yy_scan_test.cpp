@@ -73,8 +73,9 @@ TEST(YyScan, PushedBackCharactersComeNextAndTakeBackNewlines) {
     feed.yyunput('5');
     feed.yyunput(0x100 + '.'); // the low bits count
     feed.yyunput(-1);          // no character
+    feed.yyunput('4');
     EXPECT_STREQ(feed.yytext, "12");
-    EXPECT_EQ(feed.next(), "1:.5");
+    EXPECT_EQ(feed.next(), "1:4.5");
     EXPECT_EQ(feed.next(), "2:mm");
     EXPECT_EQ(feed.next(), "0:");
     feed.yyunput('\n');

@@ -25,7 +25,7 @@
 /// alloc" and status 1; the others leave the array as it was, copies come out empty. Adding
 /// is amortised constant, every other change linear in the elements moved.
 template <class T>
-class ZXArray {
+class ZARNEX_WIDE ZXArray {
 public:
     /// No storage, length 0, step -1.
     ZXArray();

@@ -34,10 +34,10 @@ void release(T* storage) {
 /// and default-constructed ones. Null, with `storage` as it was, if there is no memory.
 template <class T>
 T* resized(T* storage, int kept, int count) {
-    const auto slots = static_cast<std::size_t>(count);
+    const auto room = static_cast<std::size_t>(count);
     kept = (std::min)(kept, count);
     if constexpr (movesAsBytes<T>) {
-        T* const fresh = static_cast<T*>(::operator new[](slots * sizeof(T), std::nothrow));
+        T* const fresh = static_cast<T*>(::operator new[](room * sizeof(T), std::nothrow));
         if (fresh == nullptr)
             return nullptr;
         if (storage != nullptr)
@@ -48,8 +48,8 @@ T* resized(T* storage, int kept, int count) {
         release(storage);
         return fresh;
     } else {
-        T* const fresh = new (std::nothrow) T[slots];
-        if (fresh != nullptr) {
+        T* const fresh = new (std::nothrow) T[room];
+        if (fresh != nullptr && storage != nullptr) { // or compilers warn of moving from null
             std::move(storage, storage + kept, fresh);
             release(storage);
         }

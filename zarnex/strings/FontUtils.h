@@ -4,7 +4,7 @@
 #include <zarnex/platform/records.h>
 
 /// The fonts of the system's user interface.
-class ZARNEX_API FontUtils {
+class ZARNEX_API ZARNEX_WIDE FontUtils {
 public:
     /// Sets metrics.cbSize to 504 and reads the system's non-client metrics into
     /// the rest.

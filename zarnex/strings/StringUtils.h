@@ -18,7 +18,7 @@ inline constexpr std::size_t errorSize = ~std::size_t{0};
 /// Room is what a destination holds, terminator included. zarnex::errorSize
 /// stands for a null argument or a failed conversion. Nothing locks, throws or
 /// allocates.
-class ZARNEX_API StringUtils {
+class ZARNEX_API ZARNEX_WIDE StringUtils {
 public:
     /// Units up to and with the terminator; the error size for null.
     static std::size_t bufferSize(const char* text);

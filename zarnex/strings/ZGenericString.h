@@ -2,8 +2,6 @@
 
 #include <zarnex/config.h>
 
-class ZString;
-
 /// One text for interfaces that want it wide and for those that want 8-bit text in the
 /// system code page.
 ///
@@ -15,7 +13,7 @@ class ZString;
 ///     ZGenericString label("width");
 ///     drawText(label);               // drawText(const wchar_t*): converted here, once
 ///     logText(label);                // logText(const char*)
-class ZARNEX_API ZGenericString {
+class ZARNEX_API ZARNEX_WIDE ZGenericString {
 public:
     ZGenericString(const ZString& text);
     ZGenericString(const char* text);

@@ -5,8 +5,6 @@
 
 #include <type_traits>
 
-class ZString;
-
 namespace zarnex::detail {
 struct TextAccess;
 }

@@ -10,8 +10,6 @@
 #include <type_traits>
 #include <utility>
 
-class ZGenericString;
-
 namespace zarnex::detail {
 
 struct TextAccess;
@@ -42,7 +40,7 @@ inline constexpr int growthStep = 32;
 ///     label += L": ";
 ///     label += 42;                   // "stitch length: 42"
 ///     label == L"STITCH LENGTH: 42"  // 1
-class ZARNEX_API ZString {
+class ZARNEX_API ZARNEX_WIDE ZString {
 public:
     ZString();
 

@@ -5,8 +5,6 @@
 
 #include <type_traits>
 
-class ZString;
-
 namespace zarnex::detail {
 struct TextAccess;
 }
@@ -30,7 +28,7 @@ struct TextAccess;
 ///     ZWideString file(L"motif.emb");
 ///     file == L"Motif.emb"               // 0
 ///     file.startsWith(L"MOTIF", 1)       // 1
-class ZARNEX_API ZWideString {
+class ZARNEX_API ZARNEX_WIDE ZWideString {
 public:
     ZWideString();
     ZWideString(const wchar_t* text);

@@ -50,8 +50,9 @@ ZARNEX_API void wideToMbs(const ZWideString& text, ZMultiByteString& out,
 ZARNEX_API ZString mbsToStr(const ZMultiByteString& text, unsigned int codePage = 0);
 ZARNEX_API void mbsToStr(const ZMultiByteString& text, ZString& out, unsigned int codePage = 0);
 
-ZARNEX_API ZMultiByteString strToMbs(const wchar_t* text, unsigned int codePage = 0);
-ZARNEX_API void strToMbs(const wchar_t* text, ZMultiByteString& out, unsigned int codePage = 0);
+ZARNEX_API ZARNEX_WIDE ZMultiByteString strToMbs(const wchar_t* text, unsigned int codePage = 0);
+ZARNEX_API ZARNEX_WIDE void strToMbs(const wchar_t* text, ZMultiByteString& out,
+                                     unsigned int codePage = 0);
 
 // ---- UTF-8
 

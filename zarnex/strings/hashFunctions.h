@@ -15,8 +15,6 @@
 #include <cstdint>
 #include <type_traits>
 
-class ZString;
-
 /// Shift and add: each code unit u takes h to 4h + u, from 0.
 class ZARNEX_API HashFunction1 {
 public:

@@ -95,7 +95,7 @@ public:
 
 protected:
     /// For derived classes: a value with a label and a unit identifier.
-    ZCentimeter(double value, const wchar_t* label, int unitId);
+    ZARNEX_WIDE ZCentimeter(double value, const wchar_t* label, int unitId);
 
     /// "%4.*lf" with `precision`, and the label.
     ZString displayed(int precision) const;

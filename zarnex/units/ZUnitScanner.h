@@ -38,7 +38,7 @@ class UnitEngine;
 ///
 /// A token that reaches 100 characters ends the process ("Token buffer overflow"
 /// on the standard error stream, status 1): a hundred digits, or blanks.
-class ZARNEX_API ZUnitScanner {
+class ZARNEX_API ZARNEX_WIDE ZUnitScanner {
 public:
     /// Takes the lock and begins at the start of `text`, which is not copied and
     /// must outlive the scanner unchanged; null is the empty text. Without memory for its

@@ -23,8 +23,6 @@ struct Automaton {
     static constexpr std::uint8_t dead = 1; ///< no token begins like this
     static constexpr std::uint8_t noRule = 255;
 
-    int states = 0;
-    int classes = 0;
     std::array<std::uint8_t, 256> classOf{}; ///< 0 for bytes that are in no token
     std::array<std::array<std::uint8_t, maxClasses>, maxStates> next{};
     std::array<std::uint8_t, maxStates> rule{};
@@ -187,8 +185,6 @@ constexpr Automaton buildAutomaton(std::span<const TokenRule> rules) {
         made.rule[state] = positions.firstRule(at[state]);
         made.last[state] = after.isEmpty();
     }
-    made.states = static_cast<int>(states);
-    made.classes = static_cast<int>(classes);
     return made;
 }
 
