@@ -65,8 +65,8 @@ struct With {
 
 #define ANY_MEMBER(Constness, Kind, name, ...)                                                     \
     []<class C, class Given>(C*, Given) {                                                          \
-        using R = typename Given::template Result<decltype(CALL(                                   \
-            std::declval<Constness C&>().name))>;                                                  \
+        using R =                                                                                  \
+            typename Given::template Result<decltype(CALL(std::declval<Constness C&>().name))>;    \
         if constexpr (requires { static_cast<typename Given::template Function<R>>(&C::name); })   \
             touch(static_cast<typename Given::template Function<R>>(&C::name));                    \
         else if constexpr (requires {                                                              \
