@@ -15,7 +15,7 @@ target_compile_options(zarnex-compile-options INTERFACE -ffp-contract=off)
 # carry no time.
 target_compile_options(zarnex-compile-options INTERFACE
     -fmacro-prefix-map=${PROJECT_SOURCE_DIR}=. -fdebug-prefix-map=${PROJECT_SOURCE_DIR}=.
-    -fdebug-prefix-map=${PROJECT_BINARY_DIR}=./build)
+    -fdebug-prefix-map=${PROJECT_BINARY_DIR}=.)
 set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 if(WIN32)
     target_link_options(zarnex-compile-options INTERFACE -Wl,--no-insert-timestamp)

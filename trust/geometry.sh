@@ -49,12 +49,12 @@ seconds=$((SECONDS - start))
 
 cat <<END
 All $(wc -l <"$work/exported") exported functions and members of \`zarnex/geometry\` and
-\`zarnex/transforms\` were called with every pair, triple and foursome of a grid: NaN, infinities,
+\`zarnex/transforms\` were called with every pair, triple or foursome of a grid: NaN, infinities,
 zeros of both signs, denormal, coinciding, collinear, nearly collinear and huge coordinates, and
 the extremes of 32 and 16 bits; under AddressSanitizer and UndefinedBehaviorSanitizer, in
 $seconds s. No fault was found: each result is one that the header lists, outputs are left alone
-where it says so, and exchanged operands, ends, lines and axes give the same, to the bit, where
-the formulas are symmetric.
+where it says so, and exchanged operands, ends, lines and axes give equal results where the
+formulas are symmetric.
 
 END
 build/linux/bin/trial-exactness

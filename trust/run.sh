@@ -8,6 +8,7 @@
 # The parts in the order of the page, each with its heading.
 trust_parts=(
     "grammar:What typed quantities mean"
+    "fuzzing:Fuzzing"
     "locales:Locales"
     "platforms:The same bytes on both platforms"
     "memory:No memory"

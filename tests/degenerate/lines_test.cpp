@@ -43,7 +43,7 @@ std::string shown(std::initializer_list<DPoint> points) {
     return text.str();
 }
 
-// Two lines: exchanging them, or x and y, changes nothing, to the bit.
+// Two lines: exchanging them, or x and y, changes nothing.
 void expectIntersection(const DPoint& a, const DPoint& b, const DPoint& c, const DPoint& d) {
     DPoint out = untouched, exchanged = untouched, turned = untouched, aliased = a;
     const int parallels = intersect(out, a, b, c, d);

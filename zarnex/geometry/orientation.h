@@ -26,8 +26,8 @@ ZARNEX_API double crossProduct(const IPoint* a, const IPoint* b, const IPoint* c
 /// or NaN.
 ///
 /// Kept as is: there is no tolerance. The sign is that of the cross product of the two
-/// steps, each normalized by DVector::normalize(); for points nearly on
-/// one line, its rounding decides.
+/// steps, each normalized by DVector::normalize(); for points nearly on one line, its
+/// rounding decides.
 ZARNEX_API int Are3PointsCCW(const DPoint& a, const DPoint& b, const DPoint& c);
 
 /// 1 if the closed outline through the points of `outline` runs counter-clockwise, else
