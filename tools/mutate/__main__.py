@@ -71,7 +71,8 @@ class Results:
     def __init__(self, path, keep, retry, reasons):
         self.path, self.rows, self.lock = path, {}, threading.Lock()
         state = digest()
-        lines = [json.loads(line) for line in path.read_text().splitlines()] if path.exists() else []
+        text = path.read_text() if path.exists() else ""
+        lines = [json.loads(line) for line in text.splitlines()]
         if keep or retry or lines and lines[0] == state:
             self.rows = {row["key"]: row for row in lines[1:]}
         if retry:
@@ -132,7 +133,8 @@ def main():
     parser.add_argument("--benches", type=int, default=2, help="mutants tried at a time")
     parser.add_argument("--work", default=ROOT / "build/mutation")
     parser.add_argument("--keep", action="store_true", help="go on although the tree changed")
-    parser.add_argument("--retry", action="store_true", help="as well, and try what survived without a reason again")
+    parser.add_argument("--retry", action="store_true",
+                        help="as well, and try again what survived without a reason")
     options = parser.parse_args()
 
     folders = [row for row in candidates(options.mutants, options.seed)
