@@ -99,6 +99,7 @@ NR != FNR && /<return / {
     if (exported && result != "void" && (depth == 0 || shown))
         print mangled ": returns " result
 }
+/<\/function-decl/ { exported = 0 } # what follows may be the type of a pointer to a function
 /<\/member-function/ { slot = "" }
 
 /<\/(namespace|class|union)-decl>/ { --depth }
