@@ -10,7 +10,7 @@ crowd() {
     shift 2
     configure "$preset" ON >&2
     cmake --build --preset "$preset" -j "$jobs" --target test-threads >&2
-    "$@" "$seconds" "$threads" >"$work/$preset"
+    "$@" "$seconds" "$threads" | tr -d '\r' >"$work/$preset"
 }
 
 sum() { # KIND FILE: of the numbers in the lines of a kind
