@@ -25,7 +25,7 @@ inline constexpr bool
 template <class T>
 void release(T* storage) {
     if constexpr (movesAsBytes<T>)
-        ::operator delete[](storage);
+        ::operator delete(storage);
     else
         delete[] storage;
 }
@@ -37,7 +37,7 @@ T* resized(T* storage, int kept, int count) {
     const auto room = static_cast<std::size_t>(count);
     kept = (std::min)(kept, count);
     if constexpr (movesAsBytes<T>) {
-        T* const fresh = static_cast<T*>(::operator new[](room * sizeof(T), std::nothrow));
+        T* const fresh = static_cast<T*>(::operator new(room * sizeof(T), std::nothrow));
         if (fresh == nullptr)
             return nullptr;
         if (storage != nullptr)
