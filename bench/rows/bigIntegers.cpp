@@ -177,19 +177,19 @@ void shortRows(Suite& suite) {
             pool.state -= pool.a[(i + 1) % poolSize];
             return pool.state;
         });
-    numberRow(suite, "shift up", 1.5, "A new number a << 77 of 2048 bits.", operands, nullptr,
+    const char* const limbByLimb =
+        "About 1 ns a limb and shift, one limb after the other; GMP's are vector instructions.";
+    numberRow(suite, "shift up", 1.5, "A new number a << 77 of 2048 bits.", operands, limbByLimb,
               [](const auto& pool, std::size_t i) -> Made<decltype(pool.state)> {
                   return pool.a[i] << 77;
               });
-    numberRow(suite, "shift down", 1.5, "A new number a >> 77 of 2048 bits.", operands, nullptr,
+    numberRow(suite, "shift down", 1.5, "A new number a >> 77 of 2048 bits.", operands, limbByLimb,
               [](const auto& pool, std::size_t i) -> Made<decltype(pool.state)> {
                   return pool.a[i] >> 77;
               });
     numberRow(
         suite, "shift in place", 1.5, "x <<= 77, then x >>= 77, of 2048 bits.", operands,
-        "About 1 ns a limb and shift, one limb after the other; GMP's are vector instructions.",
-
-        [](auto& pool, std::size_t) -> const auto& {
+        limbByLimb, [](auto& pool, std::size_t) -> const auto& {
             pool.state <<= 77;
             pool.state >>= 77;
             return pool.state;
