@@ -121,7 +121,7 @@ measured_again() {
 # alone ROW: its figures in a process that runs no row but this one and those it begins.
 alone() {
     "$build/bin/zarnex-bench" "$1" | awk -v row="$1" '
-        index($0, row) == 1 && substr($0, length(row) + 1, 1) == " " {
+        index($0, row) == 1 && substr($0, length(row) + 1) ~ /^ +[0-9]/ {
             sub(/^.*(ns|µs|ms)  +/, ""); sub(/; beside.*/, ""); sub(/, unexplained/, ""); print
         }'
 }
