@@ -30,7 +30,7 @@ section() {
     [[ -e $2 ]] || return 0
     awk -v part="$1" '
         $0 == "<!-- end " part " -->" { inside = 0 }
-        inside
+        inside && $0 != "Not run yet."
         $0 == "<!-- " part " -->" { inside = 1 }' "$2"
 }
 
@@ -50,8 +50,10 @@ END
         if [[ -e $fresh ]]; then
             printf 'Measured on %s.\n\n' "$(date -u -r "$fresh" +%Y-%m-%d)"
             cat "$fresh"
-        else
+        elif [[ -n $(section "$part" "$trust_page") ]]; then
             section "$part" "$trust_page"
+        else
+            echo "Not run yet."
         fi
         printf '<!-- end %s -->\n' "$part"
     done
