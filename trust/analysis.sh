@@ -21,11 +21,11 @@ mapfile -t sourced < <(find trust bench tests -name '*.sh' | sort)
 
 clang_tidy() { xargs -P "$jobs" -n 1 clang-tidy-14 --quiet -p build/linux <"$work/sources"; }
 
-# A member that an assignment leaves alone is a
-# rule of the class, or storage of which only a part is in use; and storage is not cleared before
-# its first use. What is immortal has no destructor, elements move as bytes only where their type
-# allows it, and a constructor that delegates calls nothing virtual. The files are those that this version cannot read: a variable whose initializer
-# is a lambda with a loop, and braces in a case label.
+# A member that an assignment leaves alone is a rule of the class, or storage of which only a
+# part is in use; and storage is not cleared before its first use. What is immortal has no
+# destructor, elements move as bytes only where their type allows it, and a constructor that
+# delegates calls nothing virtual. This version cannot read two files: for a variable whose
+# initializer is a lambda with a loop, and for braces in a case label.
 unread=(zarnex/platform/posix/guid.cpp zarnex/strings/internal/format.cpp)
 cpp_check() {
     cppcheck --quiet --error-exitcode=1 --std=c++20 --language=c++ -j "$jobs" -I . --inline-suppr \
