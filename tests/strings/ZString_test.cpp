@@ -114,6 +114,14 @@ TEST(ZString, ATemporaryIsAssignedAsAVariableIs) {
     }
 }
 
+TEST(ZString, ReplacingKeepsStorageThatHasRoom) {
+    ZString text(L"a-b-c");
+    const wchar_t* const before = text;
+    text.findAndReplace(L"-", L", ");
+    EXPECT_EQ(wide(text), L"a, b, c");
+    EXPECT_EQ(static_cast<const wchar_t*>(text), before);
+}
+
 TEST(ZString, RawWritesCountAtOnceAndResizeSynchronises) {
     ZString string;
     wchar_t* buffer = string;
