@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// Points between points.
 
 #include <zarnex/config.h>
