@@ -7,12 +7,20 @@ template <class P>
 class IdTrans : public ArbTrans<P> {
 public:
     IdTrans();
+
+    /// Nothing to copy: there is no state.
+    /// @{
     IdTrans(const IdTrans&) = default;
     IdTrans& operator=(const IdTrans&) = default;
+    /// @}
+
     ~IdTrans() override;
 
+    /// `p` itself.
+    /// @{
     P transform(const P& p) override;
     P reverseTransform(const P& p) override;
+    /// @}
 };
 
 template <class P>

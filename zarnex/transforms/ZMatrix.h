@@ -30,8 +30,11 @@ public:
     /// Copies rows * cols numbers from `values`; null leaves the elements uninitialised.
     /// 0 x 0 for a negative size and for more than 2^31 - 1 elements.
     ZMatrix(int rows, int cols, const T* values);
+
+    /// Shape and elements of `other`, in storage of its own.
     ZMatrix(const ZMatrix& other);
 
+    /// Frees the elements. Virtual: a Z2DMatrix may be deleted as a ZMatrix.
     virtual ~ZMatrix();
 
     /// Writes the transpose to `out`, which must have the mirrored shape.
@@ -46,6 +49,7 @@ public:
     /// 1 on the diagonal and 0 elsewhere; status 1 for a matrix that is not square.
     virtual int identity();
 
+    /// Sets every element to 0; the shape stays.
     virtual void clear();
 
     /// Kept as is: inverts nothing and writes nothing. Returns 0 if `out` has the shape
@@ -70,36 +74,50 @@ public:
     /// elements.
     virtual ZMatrix& operator=(const ZMatrix& other);
 
+    /// Multiplies every element by `factor`.
     virtual ZMatrix& operator*=(const T& factor);
 
-    /// Element by element, in the order of the storage.
+    /// Adds or subtracts `b` element by element, in the order of the storage.
     ///
     /// Kept as is: only if `b` has the mirrored shape, else nothing. A 2 x 3 matrix adds
     /// a 3 x 2 one and ignores a 2 x 3 one; for square matrices the two are the same.
+    /// @{
     virtual ZMatrix& operator+=(const ZMatrix& b);
     virtual ZMatrix& operator-=(const ZMatrix& b);
+    /// @}
 
+    /// The number of rows, of columns; 0 for a matrix without storage.
+    /// @{
     int getRows() const;
     int getCols() const;
+    /// @}
 
     /// The element in row `r` and column `c`. The indices are not checked.
+    /// @{
     T& get(int r, int c);
     const T& get(int r, int c) const;
     T& operator()(int r, int c);
     const T& operator()(int r, int c) const;
+    /// @}
+
+    /// Sets the element in row `r` and column `c`. The indices are not checked.
     void set(int r, int c, const T& value);
 
 protected:
     /// Exchange two rows or columns; nothing for an index outside of the matrix.
+    /// @{
     void swapRow(int a, int b);
     void swapCol(int a, int b);
+    /// @}
+
+    /// Exchanges two elements.
     static void swap(T& a, T& b);
 
     int size() const; ///< rows * columns
 
-    int cols_;
-    int rows_;
-    T* data_; ///< row by row; null if there is no storage
+    int cols_; ///< columns, at least 0
+    int rows_; ///< rows, at least 0
+    T* data_;  ///< row by row; null if there is no storage
 
 private:
     /// Takes new storage, without freeing any before; 0 x 0 if there is none.
