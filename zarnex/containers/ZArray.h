@@ -39,8 +39,10 @@ public:
 
     /// Kept as is: copies share the block and the cache, although the other
     /// arrays copy theirs. Each destructor frees both: let only one run.
+    /// @{
     ZArray(const ZArray& other);
     ZArray& operator=(const ZArray& other);
+    /// @}
 
     /// Frees the cache and the block.
     ~ZArray();
