@@ -18,7 +18,7 @@ public:
     MiniGuard(const MiniGuard& other);
     MiniGuard& operator=(const MiniGuard&) = delete;
 
-    MiniLock& getLock();
+    MiniLock& getLock(); ///< the lock that it holds
 
 private:
     MiniLock* lock_;
