@@ -7,3 +7,6 @@ s/^extern template .*//
 
 # It takes the > for the end of the template's parameters.
 s/ && sizeof(Number) >= 4//
+
+# Members that a using declaration brings in: it copies them without the comment of their group.
+s/^ *using Z[A-Za-z]*::.*;//
