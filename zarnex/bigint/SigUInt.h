@@ -90,6 +90,8 @@ public:
     /// Takes as many steps as the longer operand has limbs of 64 bits.
     SigUInt& operator+=(const SigUInt& other);
 
+    /// Takes `other` away, down to zero.
+    ///
     /// Kept as is: a difference below zero is zero, although the unsigned integers of the
     /// language wrap round.
     SigUInt& operator-=(const SigUInt& other);

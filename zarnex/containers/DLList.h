@@ -26,8 +26,12 @@ class ZARNEX_API DLList {
 public:
     /// An empty list.
     DLList();
+
+    /// Not to be copied: a node is in one list.
+    /// @{
     DLList(const DLList&) = delete;
     DLList& operator=(const DLList&) = delete;
+    /// @}
 
     /// Deletes the nodes, from the head on.
     virtual ~DLList();

@@ -17,6 +17,7 @@ public:
     ZArrayManager& operator=(const ZArrayManager& other);
     /// @}
 
+    /// Releases nothing: there is no state.
     ~ZArrayManager();
 
     void growHeap(); ///< does nothing

@@ -20,8 +20,12 @@ public:
     /// An empty group with room for `n` items; 0 counts as 1. Without room for a negative
     /// `n` and where there is no memory for as many; the room grows as needed anyway.
     ZGroup(int n);
+
+    /// Not to be copied: an item is in one group.
+    /// @{
     ZGroup(const ZGroup&) = delete;
     ZGroup& operator=(const ZGroup&) = delete;
+    /// @}
 
     /// Leaves the members without a parent.
     ~ZGroup() override;
@@ -82,7 +86,7 @@ public:
     /// 1 where == gives 0, else 0.
     int operator!=(const ZGroup* other) const;
 
-    /// The same; see ZGroupable.
+    /// The exact matches that C++20 asks for; see ZGroupable.
     /// @{
     int operator!=(ZGroup* other) const;
     template <class Null,

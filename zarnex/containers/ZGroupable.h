@@ -35,7 +35,7 @@ public:
     /// 1 where == gives 0, else 0.
     int operator!=(const ZGroupable* other);
 
-    /// The same. Without an exact match C++20 would make != from ==, whose result is no bool.
+    /// Exact matches: without them C++20 would make != from ==, whose result is no bool.
     /// @{
     int operator!=(ZGroupable* other);
     template <class Null,

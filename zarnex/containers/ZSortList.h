@@ -41,6 +41,7 @@ public:
     /// Kept as is: in the order of `source`, not sorted.
     ZSortList(const ZList<T>& source);
 
+    /// Removes all elements, first to last.
     ~ZSortList() override;
 
     /// Copies the elements and the direction. As in ZList, assigning a list to

@@ -74,6 +74,8 @@ public:
     int operator==(const DPoint& p) const;
     int operator!=(const DPoint& p) const; ///< 1 where == gives 0, else 0
 
+    /// 1 if it holds in x and in y, else 0.
+    ///
     /// Kept as is: dominance, not an order. Each holds when it holds for x and for
     /// y, exactly, so that two points can be neither less, equal nor greater. Do not
     /// sort by it.
@@ -99,6 +101,8 @@ public:
     /// Multiplies x by `sx` and y by `sy` in place.
     DPoint& scale(double sx, double sy);
 
+    /// Multiplies x by `sx` and y by `sy` in place and rounds the products.
+    ///
     /// Kept as is: scale() that leaves the point on the integer grid, each product
     /// rounded with halves away from zero (see zarnex::roundHalfAway).
     DPoint& roundScale(double sx, double sy);

@@ -70,6 +70,8 @@ public:
     int operator==(const DVector& v) const;
     int operator!=(const DVector& v) const; ///< 1 where == gives 0, else 0
 
+    /// 1 if it holds of the lengths, else 0.
+    ///
     /// Kept as is: compares the lengths, so that two vectors can be neither less
     /// nor greater without being equal. Points compare by coordinate.
     /// @{

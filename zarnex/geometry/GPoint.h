@@ -30,6 +30,7 @@ public:
     GPoint& operator=(const GPoint&) = default;
     /// @}
 
+    /// Releases nothing: the coordinates are in the object.
     ~GPoint() override;
 
     /// The same place, as it is.

@@ -68,6 +68,8 @@ public:
     int operator==(const IPoint& p) const;
     int operator!=(const IPoint& p) const; ///< 1 where == gives 0, else 0
 
+    /// 1 if it holds in x and in y, else 0.
+    ///
     /// Kept as is: dominance, not an order. Each holds when it holds for x and for
     /// y, so that two points can be neither less, equal nor greater. Do not sort by it.
     /// @{
@@ -85,6 +87,8 @@ public:
     double manhattanDistance(const IPoint& p) const;
     /// @}
 
+    /// Adds (dx, dy) in place.
+    ///
     /// Kept as is: the sums are truncated toward zero, although + wraps and a
     /// ZCoord is moved by integers.
     IPoint& translate(double dx, double dy);
@@ -95,6 +99,8 @@ public:
     /// scale() with the products rounded, halves away from zero.
     IPoint& roundScale(double sx, double sy);
 
+    /// Turns the point by `degrees` about `centre`.
+    ///
     /// Kept as is: truncates the result toward zero, although roundScale() and
     /// matrixRot() round, and with the short pi of DPoint::rotate: (10, 0) turned by
     /// 90 about the origin is (0, 9).

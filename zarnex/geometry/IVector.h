@@ -47,6 +47,8 @@ public:
 
     IVector operator*(const double& s) const; ///< both components times `s`, truncated
 
+    /// x * v.x + y * v.y.
+    ///
     /// Kept as is: the dot product, wrapped into 32 bits, although length() and cross()
     /// are doubles. projectOn(), projectOnUnit() and isSameSense() use a double as well.
     int operator*(const IVector& v) const;
@@ -55,6 +57,8 @@ public:
     int operator==(const IVector& v) const;
     int operator!=(const IVector& v) const; ///< 1 where == gives 0, else 0
 
+    /// 1 if it holds of the lengths, else 0.
+    ///
     /// Kept as is: compares the lengths, so that two vectors can be neither less
     /// nor greater without being equal. Points compare by coordinate.
     /// @{

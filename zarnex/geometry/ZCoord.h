@@ -67,6 +67,8 @@ public:
     int operator==(const ZCoord& p) const;
     int operator!=(const ZCoord& p) const; ///< 1 where == gives 0, else 0
 
+    /// 1 if it holds in x and in y, else 0.
+    ///
     /// Kept as is: dominance, not an order. Each holds when it holds for x and for
     /// y, so that two points can be neither less, equal nor greater. Do not sort by it.
     /// @{
@@ -93,6 +95,8 @@ public:
     /// scale() with the products rounded, halves away from zero.
     ZCoord& roundScale(double sx, double sy);
 
+    /// Turns the point by `degrees` about `centre`.
+    ///
     /// Kept as is: truncates the result toward zero, although roundScale() and
     /// matrixRot() round, and with the short pi of DPoint::rotate: (10, 0) turned by
     /// 90 about the origin is (0, 9).

@@ -73,6 +73,8 @@ public:
     int operator==(const ZTPoint& p) const;
     int operator!=(const ZTPoint& p) const; ///< 1 where == gives 0, else 0
 
+    /// 1 if it holds in x and in y, else 0.
+    ///
     /// Kept as is: dominance, not an order. Each holds when it holds for x and for
     /// y, so that two points can be neither less, equal nor greater. Do not sort by it.
     /// @{

@@ -48,6 +48,8 @@ public:
 
     ZVector operator*(const double& s) const; ///< both components times `s`, truncated
 
+    /// x * v.x + y * v.y.
+    ///
     /// Kept as is: the dot product, wrapped into T: (200, 200) by itself gives 14464.
     /// projectOn(), projectOnUnit() and isSameSense() use the exact one.
     T operator*(const ZVector& v) const;
@@ -56,6 +58,8 @@ public:
     int operator==(const ZVector& v) const;
     int operator!=(const ZVector& v) const; ///< 1 where == gives 0, else 0
 
+    /// 1 if it holds of the lengths, else 0.
+    ///
     /// Kept as is: compares the lengths, so that two vectors can be neither less
     /// nor greater without being equal. Points compare by coordinate.
     /// @{

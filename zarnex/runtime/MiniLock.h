@@ -14,6 +14,8 @@ public:
     /// The lock must not be held.
     virtual ~MiniLock();
 
+    /// Not a lock of its own.
+    ///
     /// Kept as is: copies the bytes of the platform's lock and makes no new one.
     /// The copy is not an independent lock, and only one of the two may be
     /// destroyed while the other is in use; do not copy locks.

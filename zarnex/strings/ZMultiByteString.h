@@ -140,8 +140,8 @@ public:
     /// keeps it.
     void resize(int n);
 
-    /// Sets the text by a printf format, by the rules of ZString::set(), except that `%s`
-    /// takes narrow text and `%S` and `%ls` wide; null changes nothing.
+    /// Sets the text by a printf format, by the rules of ZString::set(), except that "%s"
+    /// takes narrow text and "%S" and "%ls" wide; null changes nothing.
     void set(const char* format, ...);
 
     /// Not for objects, which no conversion reads: pass a string as

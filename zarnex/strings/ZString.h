@@ -159,8 +159,10 @@ public:
     ZString operator+(const ZString& text) const; ///< a new string, this one and `text`
     ZString operator+(const wchar_t* text) const; ///< a new string, this one and `text`
 
-    /// Kept as is: a character counts as a number here, so `text + L'A'` ends with
-    /// 65, although `text += L'A'` appends the letter. A narrow character counts as a
+    /// A new string: this one, then the decimal digits of `number`.
+    ///
+    /// Kept as is: a character counts as a number here, so ``text + L'A'`` ends with
+    /// 65, although ``text += L'A'`` appends the letter. A narrow character counts as a
     /// number in both.
     ZString operator+(int number) const;
 
@@ -313,8 +315,8 @@ public:
     /// Sets the text by a printf format; null changes nothing.
     ///
     /// Conversions d i u o x X c C s S p e E f F g G a A %, flags "-+ #0", width,
-    /// precision, '*', lengths h hh l ll j z t I I32 I64 L w. `%s` takes wide text, `%S` and
-    /// `%hs` narrow. The decimal sign is always a dot, on every platform and in
+    /// precision, '*', lengths h hh l ll j z t I I32 I64 L w. "%s" takes wide text, "%S" and
+    /// "%hs" narrow. The decimal sign is always a dot, on every platform and in
     /// every locale; infinities are "inf", no number is "nan". What is no
     /// conversion is copied. Arguments may point into the string.
     ///
@@ -486,6 +488,8 @@ std::basic_ostream<wchar_t, Traits>& operator<<(std::basic_ostream<wchar_t, Trai
     return out << static_cast<const wchar_t*>(text);
 }
 
+/// The text as numbers, to narrow streams.
+///
 /// Kept as is: dump(), that is decimal numbers and no text, although wide streams get
 /// the text.
 ZARNEX_API std::ostream& operator<<(std::ostream& out, const ZString& text);

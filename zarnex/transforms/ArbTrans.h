@@ -11,6 +11,7 @@
 template <class P>
 class ArbTrans {
 public:
+    /// Nothing to set up: the state is that of derived classes.
     ArbTrans();
 
     /// Nothing to copy: the state is that of derived classes.

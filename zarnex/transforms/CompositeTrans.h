@@ -28,6 +28,8 @@ public:
     /// deleted with it, and each may be added only once.
     CompositeTrans(int owns);
 
+    /// A chain of the same members.
+    ///
     /// Kept as is: shallow, also as to ownership. Two chains that own the same members
     /// both delete them, and what a chain owned before an assignment is not deleted; copy
     /// only chains that own nothing.

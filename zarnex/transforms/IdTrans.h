@@ -6,6 +6,7 @@
 template <class P>
 class IdTrans : public ArbTrans<P> {
 public:
+    /// The identity.
     IdTrans();
 
     /// Nothing to copy: there is no state.
@@ -14,6 +15,7 @@ public:
     IdTrans& operator=(const IdTrans&) = default;
     /// @}
 
+    /// Releases nothing: there is no state.
     ~IdTrans() override;
 
     /// `p` itself.

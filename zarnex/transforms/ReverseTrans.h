@@ -15,6 +15,8 @@ public:
     /// is deleted with it.
     ReverseTrans(ArbTrans<P>* inner, int owns);
 
+    /// Refers to the same transform.
+    ///
     /// Kept as is: shallow, also as to ownership. Two objects that own one transform both
     /// delete it, and what an object owned before an assignment is not deleted; copy only
     /// objects that own nothing.

@@ -93,10 +93,14 @@ public:
     /// if either has another shape than 2 x 2, in place or not.
     int invert(Z2DMatrix& out) const;
 
+    /// Returns 0 if `out` has the shape of this matrix, else 1.
+    ///
     /// Kept as is: ZMatrix::invert(), which writes nothing, although the other two
     /// forms invert.
     int invert(ZMatrix<T>& out) const override;
 
+    /// Exchanges two elements in place.
+    ///
     /// Kept as is: exchanges m10 and m11, not m01 and m10: (1, 2, 3, 4) becomes
     /// (1, 2, 4, 3). Returns 0.
     int transpose();
@@ -107,6 +111,8 @@ public:
     /// Kept as is: a 2 x 2 matrix into itself is left as by transpose().
     int transpose(Z2DMatrix& out) const;
 
+    /// Writes the transpose to `out`, which must have the mirrored shape.
+    ///
     /// Kept as is: ZMatrix::transpose(), which turns (1, 2, 3, 4) in place into
     /// (1, 2, 2, 4).
     int transpose(ZMatrix<T>& out) const override;

@@ -43,6 +43,8 @@ public:
     /// onto those below and stay: (1, 2, 3, 4) becomes (1, 2, 2, 4).
     virtual int transpose(ZMatrix& out) const;
 
+    /// The determinant, which only derived classes know.
+    ///
     /// Kept as is: 0.0 for every shape; Z2DMatrix computes it.
     virtual T det() const;
 
@@ -52,13 +54,19 @@ public:
     /// Sets every element to 0; the shape stays.
     virtual void clear();
 
+    /// Compares the shapes, where derived classes invert.
+    ///
     /// Kept as is: inverts nothing and writes nothing. Returns 0 if `out` has the shape
     /// of this matrix, else 1. Z2DMatrix::invert() inverts.
     virtual int invert(ZMatrix& out) const;
 
+    /// Solves a system of equations in derived classes.
+    ///
     /// Kept as is: does nothing and returns 0; Z2DMatrix solves.
     virtual int solve(ZMatrix& b);
 
+    /// Has a place among the virtual members, and no more.
+    ///
     /// Kept as is: does nothing and returns 0, in Z2DMatrix too.
     virtual int guassianReduction(ZMatrix&, int&);
 
@@ -66,8 +74,9 @@ public:
     /// element is summed up from 0.0 in the order of the columns of this matrix.
     virtual int multiply(const ZMatrix& b, ZMatrix& out) const;
 
-    /// Kept as is: a test of the shape, in spite of its name. 1 if the matrix has `rows`
-    /// rows and `cols` columns, else 0.
+    /// Whether the matrix has `rows` rows and `cols` columns: 1 or 0.
+    ///
+    /// Kept as is: a test of the shape, in spite of its name.
     virtual int rangeCheck(int rows, int cols) const;
 
     /// Takes shape and elements over. New storage is only made for another number of

@@ -33,6 +33,7 @@ public:
     /// onto its argument.
     Z2DRotate(const DVector& u, const DVector& v);
 
+    /// Frees the elements.
     ~Z2DRotate() override;
 
     /// Takes any elements over, rotation or not.
@@ -54,6 +55,7 @@ public:
     /// Multiplies x by `s`.
     Z2DXScale(double s);
 
+    /// Frees the elements.
     ~Z2DXScale() override;
 
     /// Takes any elements over, of this form or not.
@@ -75,6 +77,7 @@ public:
     /// Multiplies y by `s`.
     Z2DYScale(double s);
 
+    /// Frees the elements.
     ~Z2DYScale() override;
 
     /// Takes any elements over, of this form or not.
@@ -96,6 +99,7 @@ public:
     /// Adds `k` times y to x.
     Z2DXShear(double k);
 
+    /// Frees the elements.
     ~Z2DXShear() override;
 
     /// Takes any elements over, of this form or not.
@@ -117,6 +121,7 @@ public:
     /// Adds `k` times x to y.
     Z2DYShear(double k);
 
+    /// Frees the elements.
     ~Z2DYShear() override;
 
     /// Takes any elements over, of this form or not.

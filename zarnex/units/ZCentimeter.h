@@ -34,6 +34,8 @@ public:
     /// Takes label and unit identifier too.
     ZCentimeter(const ZCentimeter& other) = default;
 
+    /// Takes value and validity.
+    ///
     /// Kept as is: takes value and validity alone, although copying construction
     /// takes everything.
     ZCentimeter& operator=(const ZCentimeter& other);
@@ -79,7 +81,7 @@ public:
     /// getStringWithUnits().
     virtual ZString getDensityStringWithUnits(int unit);
 
-    /// The same for const objects, through the virtual operations.
+    /// The two texts of a const object, through the virtual operations.
     /// @{
     ZString getStringWithUnits(int unit) const;
     ZString getDensityStringWithUnits(int unit) const;

@@ -80,6 +80,8 @@ public:
     /// need them, else one. " 2.5 mm", "2.34 mm".
     operator ZString();
 
+    /// Four places wide, with one decimal and the label.
+    ///
     /// Kept as is: always one decimal, although the conversion of an object that is
     /// not const chooses.
     operator ZString() const;

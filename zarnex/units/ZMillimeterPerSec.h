@@ -62,6 +62,8 @@ public:
     /// refused counts in `preferredUnit`, or in mm/s if that is refused.
     void setStringWithUnits(const ZString& text, int preferredUnit);
 
+    /// The value with many decimals, and the label.
+    ///
     /// Kept as is: "%4.*2f" with 2 where the hundredths, cut off, need them, else
     /// 1, which renders 22 or 12 decimals, although the conversion of a const object
     /// renders 2. ZMillimeter rounds the hundredths.
