@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// Every public header of the library.
 
 #include <zarnex/bigint/SigUInt.h>

@@ -1,0 +1,12 @@
+# What Doxygen 1.9.4 reads instead of a header; its lines keep their numbers.
+
+# Instantiations, which it takes for further classes: the lines that declare one, and the
+# arguments of a base class.
+s/^extern template .*//
+/^class/s/: public \(Z[A-Za-z0-9]*\)<[^>]*> {/: public \1 {/
+
+# It takes the > for the end of the template's parameters.
+s/ && sizeof(Number) >= 4//
+
+# Members that a using declaration brings in: it copies them without the comment of their group.
+s/^ *using Z[A-Za-z]*::.*;//
