@@ -10,3 +10,8 @@ s/ && sizeof(Number) >= 4//
 
 # Members that a using declaration brings in: it copies them without the comment of their group.
 s/^ *using Z[A-Za-z]*::.*;//
+
+# Friends: it links to them as to members, but has no place for them. Those that are defined in the
+# class may as well be members.
+s/^ *friend .*;//
+s/^ *friend \(.* {\)$/    \1/

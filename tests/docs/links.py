@@ -75,8 +75,7 @@ def site_faults(site):
             elif target.endswith(".md"):
                 yield f"{name}: a page that is not on the site: {link}"
     for page in sorted((ROOT / "docs").glob("*.md")):
-        # Doxygen writes an underscore of a name twice.
-        if f"md_docs_{page.stem.replace('_', '__')}.html" not in built["index.html"].links:
+        if f"md_docs_{page.stem.replace('-', '_')}.html" not in built["index.html"].links:
             yield f"docs/site/header.html: the contents lack docs/{page.name}"
 
 
