@@ -31,6 +31,8 @@ def without_code(text):
 
 def tree_faults():
     for page in pages():
+        for text in re.findall(r"\[([^\]]*\n[^\]]*)\]\(", without_code(page.read_text("utf-8"))):
+            yield f"{page.relative_to(ROOT)}: Doxygen wants a link in one line: {text!r}"
         for link in re.findall(r"\]\(([^)\s]+)\)", without_code(page.read_text("utf-8"))):
             if re.match(r"[a-z]+:", link):
                 continue
