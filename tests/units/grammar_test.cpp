@@ -55,12 +55,15 @@ std::vector<Row> documentedRows() {
 ZString textOf(const std::string& cell) {
     if (cell == "(empty)")
         return {};
-    if (cell.size() < 3 || cell.front() != '`' || cell.back() != '`') {
+    const std::string marks(cell.rfind("``", 0) == 0 ? 2 : 1, '`');
+    const std::size_t size = cell.size() - 2 * marks.size();
+    if (cell.size() <= 2 * marks.size() || cell.rfind(marks, 0) != 0 ||
+        cell.substr(marks.size() + size) != marks) {
         ADD_FAILURE() << "not in backquotes: " << cell;
         return {};
     }
     ZString text;
-    const ZString bare = mbsToStr(ZMultiByteString(cell.substr(1, cell.size() - 2).c_str()), 65001);
+    const ZString bare = mbsToStr(ZMultiByteString(cell.substr(marks.size(), size).c_str()), 65001);
     for (const wchar_t* at = bare.operator const wchar_t*(); *at != L'\0'; ++at) {
         if (*at != L'\\') {
             text += *at;

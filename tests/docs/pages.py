@@ -1,13 +1,13 @@
-"""Whether the links of the pages lead somewhere.
+"""Whether the links of the pages lead somewhere and their code is on the site as it was written.
 
-    python3 tests/docs/links.py                     # of the Markdown files in the tree
-    python3 tests/docs/links.py --site build/docs/html
+    python3 tests/docs/pages.py                     # the Markdown files in the tree
+    python3 tests/docs/pages.py --site build/docs/html
 
 In the tree a link names a file, from the folder of its page; one to a section is refused, since
 Doxygen and the viewers of repositories name sections differently. On the site all pages are
-tried with their anchors and pictures, and each page of docs/ must be in the contents.
-Addresses elsewhere are not asked for. Prints the faults, one a line; the status is 1 if there are
-any.
+tried with their anchors and pictures; each page of docs/ must be in the contents, and all code of
+a page in what Doxygen made of it, which reads some Markdown in its own way. Addresses elsewhere are
+not asked for. Prints the faults, one a line; the status is 1 if there are any.
 """
 
 import html.parser
@@ -24,9 +24,18 @@ def pages():
     return sorted(ROOT.glob("*.md")) + sorted((ROOT / "docs").rglob("*.md"))
 
 
+SPAN = re.compile(r"(`+)(.*?)(?<!`)\1(?!`)", re.S)
+
+
+def split(text):
+    """(the text without its blocks of code, the lines of those)."""
+    blocks = re.compile(r"^```.*?\n(.*?)^```", re.M | re.S)
+    lines = [line for block in blocks.findall(text) for line in block.splitlines()]
+    return blocks.sub("", text), lines
+
+
 def without_code(text):
-    text = re.sub(r"^```.*?^```", "", text, flags=re.M | re.S)
-    return re.sub(r"`[^`\n]*`", "", text)
+    return SPAN.sub("", split(text)[0])
 
 
 def tree_faults():
@@ -43,12 +52,14 @@ def tree_faults():
 
 
 class Page(html.parser.HTMLParser):
-    """What a page of the site links to, and what can be linked to in it."""
+    """What a page of the site links to, what can be linked to in it, and its code."""
 
     def __init__(self, path):
         super().__init__()
         self.links = set()
         self.anchors = set()
+        self.code = {""}
+        self.inside = None  # of the tag whose text is code, and the text so far
         self.feed(path.read_text("utf-8"))
 
     def handle_starttag(self, tag, attributes):
@@ -57,6 +68,30 @@ class Page(html.parser.HTMLParser):
                 self.links.add(value)
             elif name in ("id", "name") and value:
                 self.anchors.add(value)
+        if tag == "code" or (tag == "div" and ("class", "line") in attributes):
+            self.inside = [tag, ""]
+
+    def handle_data(self, data):
+        if self.inside:
+            self.inside[1] += data
+
+    def handle_endtag(self, tag):
+        if self.inside and tag == self.inside[0]:
+            self.code.add(plain(self.inside[1]))
+            self.inside = None
+
+
+def plain(code):
+    """Code without what may differ on the site: blanks at its ends, and lines for blanks."""
+    return " ".join(code.replace("\xa0", " ").replace("\u200b", "").split())
+
+
+def code_faults(path, page):
+    text, lines = split(path.read_text("utf-8"))
+    for code in [code for _, code in SPAN.findall(text)] + lines:
+        # In tables, a bar is written with a backslash.
+        if plain(code) not in page.code and plain(code.replace("\\|", "|")) not in page.code:
+            yield f"{path.relative_to(ROOT)}: not on the site as written: {code}"
 
 
 def site_faults(site):
@@ -76,9 +111,13 @@ def site_faults(site):
                 yield f"{name}: no such section: {link}"
             elif target.endswith(".md"):
                 yield f"{name}: a page that is not on the site: {link}"
-    for page in sorted((ROOT / "docs").glob("*.md")):
-        if f"md_docs_{page.stem.replace('-', '_')}.html" not in built["index.html"].links:
-            yield f"docs/site/header.html: the contents lack docs/{page.name}"
+    for page in pages():
+        name = "_".join(page.relative_to(ROOT).with_suffix("").parts).replace("-", "_")
+        name = "index.html" if name == "README" else f"md_{name}.html"
+        if name not in built["index.html"].links:
+            yield f"docs/site/header.html: the contents lack {page.relative_to(ROOT)}"
+        elif name in built:
+            yield from code_faults(page, built[name])
 
 
 def main(arguments):
@@ -88,7 +127,7 @@ def main(arguments):
         faults = list(tree_faults())
     else:
         sys.exit(__doc__)
-    print("\n".join(faults) if faults else "All links lead somewhere.")
+    print("\n".join(faults) if faults else "The pages are whole.")
     return 1 if faults else 0
 
 
