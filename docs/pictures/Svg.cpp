@@ -6,6 +6,7 @@
 namespace {
 
 const char* const styles = R"(<style>
+:root { color-scheme: light dark; }
 text { font: 14px system-ui, "DejaVu Sans", sans-serif; fill: #1f2733; }
 .code { font-family: ui-monospace, "DejaVu Sans Mono", monospace; font-size: 13px; }
 .small { font-size: 12px; }
