@@ -10,3 +10,9 @@ s/ && sizeof(Number) >= 4//
 
 # Members that a using declaration brings in: it copies them without the comment of their group.
 s/^ *using Z[A-Za-z]*::.*;//
+
+# A remark behind a member becomes a sentence, as what stands in front of others is one.
+/\/\/\/< \([a-z][a-z]*\([, ]\+[a-z0-9`(]\|$\)\|[0-9] [a-z]\)/ {
+    s|///< [a-z]|\U&|
+    s|\([^.]\)$|\1.|
+}
