@@ -16,3 +16,6 @@ s/^ *using Z[A-Za-z]*::.*;//
     s|///< [a-z]|\U&|
     s|\([^.]\)$|\1.|
 }
+
+# The mark of what is odd on purpose is bold.
+s|Kept as is:|<b>&</b>|
