@@ -31,12 +31,13 @@ void PrintTo(const Request& request, std::ostream* out) {
     *out << request.bytes << " bytes by " << forms[request.form];
 }
 
-/// What was asked for since the last reset(); without memory of its own.
+/// What an operation has asked for; without memory of its own.
 struct Asked {
+    static constexpr int most = 64;
     struct {
         Request request;
         void* block; // null once it was released
-    } records[64];
+    } records[most];
     int count = 0;
     int wrongReleases = 0; // of unknown blocks, and in another form than asked for
     bool isOn = false;
@@ -44,7 +45,7 @@ struct Asked {
 
 void* ask(Form form, std::size_t bytes) {
     void* const block = std::malloc(bytes);
-    if (asked.isOn)
+    if (asked.isOn && asked.count < Asked::most)
         asked.records[asked.count++] = {{form, bytes}, block};
     return block;
 }
