@@ -81,19 +81,16 @@ struct Node {
 
 using Nodes = std::vector<Node>;
 
-Acts flat(const Nodes& nodes, int i, bool isBack) {
+void flatten(const Nodes& nodes, int i, bool isBack, Acts& acts) {
     if (i < 0)
-        return {};
+        return;
     const Node& node = *at(nodes, i);
     if (node.step != nullptr)
-        return {{node.step, isBack}};
-    Acts acts;
+        acts.push_back({node.step, isBack});
     for (int k = 0; k < sizeOf(node.members); ++k) {
         const int member = *at(node.members, isBack ? sizeOf(node.members) - 1 - k : k);
-        const Acts more = flat(nodes, member, isBack != (node.reverse != nullptr));
-        acts.insert(acts.end(), more.begin(), more.end());
+        flatten(nodes, member, isBack != (node.reverse != nullptr), acts);
     }
-    return acts;
 }
 
 /// Chains of chains become long soon.
@@ -103,7 +100,7 @@ bool isTooLong(const Nodes& nodes) {
         lengths.push_back(1);
         for (const int member : node.members)
             lengths.back() += member < 0 ? 1 : *at(lengths, member);
-        if (lengths.back() > 1000)
+        if (lengths.back() > 200)
             return true;
     }
     return false;
@@ -111,7 +108,8 @@ bool isTooLong(const Nodes& nodes) {
 
 void map(const Nodes& nodes, int i, bool isBack, const DPoint& p) {
     Arb& trans = *at(nodes, i)->trans;
-    const Acts acts = flat(nodes, i, isBack);
+    Acts acts;
+    flatten(nodes, i, isBack, acts);
     DPoint expected = p;
     for (const Act& act : acts)
         expected = act.step->moved(expected, act.isBack);

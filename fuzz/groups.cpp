@@ -60,26 +60,22 @@ std::vector<Node*> patriarchs(const Node& node) {
     return path.empty() ? path : std::vector<Node*>{path.back()};
 }
 
-void check(const Nodes& nodes) {
-    for (const Node& node : nodes) {
-        ZGroupable* const thing = node.thing();
-        FUZZ_REQUIRE(thing->isGroup() == int(node.group != nullptr));
-        FUZZ_REQUIRE(thing->getParent() == (node.parent ? node.parent->group.get() : nullptr));
-        const auto outermost = things(patriarchs(node));
-        ZGroup* const patriarch = thing->getPatriarch();
-        FUZZ_REQUIRE(outermost.empty() ? patriarch == nullptr
-                                       : positionOf(outermost, patriarch) >= 0);
-        if (node.group == nullptr)
-            continue;
-        FUZZ_REQUIRE(node.group->size() == sizeOf(node.members));
-        for (int i = -1; i <= sizeOf(node.members); ++i)
-            FUZZ_REQUIRE(
-                node.group->indexToItem(i) ==
-                (i < 0 || i == sizeOf(node.members) ? nullptr : (*at(node.members, i))->thing()));
-        for (const Node& other : nodes)
-            FUZZ_REQUIRE(node.group->itemToIndex(other.thing()) ==
-                         positionOf(node.members, &other));
-    }
+void check(const Nodes& nodes, const Node& node) {
+    ZGroupable* const thing = node.thing();
+    FUZZ_REQUIRE(thing->isGroup() == int(node.group != nullptr));
+    FUZZ_REQUIRE(thing->getParent() == (node.parent ? node.parent->group.get() : nullptr));
+    const auto outermost = things(patriarchs(node));
+    ZGroup* const patriarch = thing->getPatriarch();
+    FUZZ_REQUIRE(outermost.empty() ? patriarch == nullptr : positionOf(outermost, patriarch) >= 0);
+    if (node.group == nullptr)
+        return;
+    FUZZ_REQUIRE(node.group->size() == sizeOf(node.members));
+    FUZZ_REQUIRE(node.group->indexToItem(-1) == nullptr);
+    FUZZ_REQUIRE(node.group->indexToItem(sizeOf(node.members)) == nullptr);
+    for (int i = 0; i < sizeOf(node.members); ++i)
+        FUZZ_REQUIRE(node.group->indexToItem(i) == (*at(node.members, i))->thing());
+    for (const Node& other : nodes)
+        FUZZ_REQUIRE(node.group->itemToIndex(other.thing()) == positionOf(node.members, &other));
 }
 
 // ---- Visits, which the library makes through plain functions
@@ -203,7 +199,11 @@ void tryInput(fuzz::Input input) {
         create(input, *at(nodes, i), i < groups);
     for (int steps = 0; !input.atEnd() && steps < 200; ++steps) {
         Node& node = *at(nodes, input.choice(input.choice(2) == 0 ? groups : sizeOf(nodes)));
-        change(input, node, *at(nodes, input.choice(sizeOf(nodes))));
-        check(nodes);
+        Node& other = *at(nodes, input.choice(sizeOf(nodes)));
+        change(input, node, other);
+        check(nodes, node);
+        check(nodes, other);
     }
+    for (const Node& node : nodes)
+        check(nodes, node);
 }
