@@ -27,6 +27,20 @@ Ints counted(int length) {
     return array;
 }
 
+const Ints forty = counted(40); // made before the heap fails
+
+/// What `make` makes holds what it should, or nothing for want of memory, and can grow.
+template <class Done, class Make>
+auto made(Done isDone, Make make) {
+    return [=](Trial& trial) {
+        std::optional<Ints> array;
+        trial.attempt([&] { array.emplace(make()); });
+        trial.expect(array && (isDone(*array) || (trial.failed() && array->length() == 0)));
+        (*array)[50] = 5;
+        trial.expect(array->length() == 51);
+    };
+}
+
 /// `edit` either does all of its work on a full array of 32 or leaves it as it was.
 template <class Done, class Edit>
 auto edited(Done isDone, Edit edit) {
@@ -49,6 +63,10 @@ auto counting(int first, int length) {
     return [=](const Ints& array) { return counts(array, first, length); };
 }
 
+bool extended(const Ints& array) {
+    return array.length() == 100 && array[31] == 31;
+}
+
 /// A list whose ring runs through `length` elements in both directions.
 template <class T>
 bool isRing(const ZList<T>& list, long length) {
@@ -58,6 +76,18 @@ bool isRing(const ZList<T>& list, long length) {
     for (auto at = list.rbegin(); at != list.rend(); ++at)
         ++backward;
     return list.length() == length && forward == length && backward == length;
+}
+
+/// `edit` makes a list of 3, 1, 2 a ring of `done` elements or, where it throws, of `left`.
+template <class List = ZList<int>, class Edit>
+auto listed(long left, long done, Edit edit) {
+    return [=](Trial& trial) {
+        List list;
+        for (const int value : {3, 1, 2})
+            list.add(value);
+        trial.attempt([&] { edit(list); });
+        trial.expect(isRing(list, trial.threw() ? left : done));
+    };
 }
 
 class Item : public ZGroupable {};
@@ -76,36 +106,17 @@ Group arrayOperations() {
         "`ZXArray`",
         {
             {"ZXArray(n, step)", goesOn,
-             [](Trial& t) {
-                 std::optional<Ints> array;
-                 t.attempt([&] { array.emplace(40, 8); });
-                 t.expect(array && array->length() == (t.failed() ? 0 : 40));
-                 (*array)[50] = 5;
-                 t.expect(array->length() == 51);
-             }},
+             made([](const Ints& a) { return a.length() == 40; }, [] { return Ints(40, 8); })},
             {"ZXArray(values, n)", goesOn,
-             [](Trial& t) {
-                 const int values[] = {3, 4, 5};
-                 std::optional<Ints> array;
-                 t.attempt([&] { array.emplace(values, 3); });
-                 t.expect(array && (counts(*array, 3, 3) || (t.failed() && array->length() == 0)));
-             }},
-            {"ZXArray(ZXArray)", goesOn,
-             [](Trial& t) {
-                 const Ints source = counted(40);
-                 std::optional<Ints> array;
-                 t.attempt([&] { array.emplace(source); });
-                 t.expect(array && counts(*array, 0, t.failed() ? 0 : 40));
-             }},
+             made(counting(0, 3), [] { return Ints(static_cast<const int*>(forty), 3); })},
+            {"ZXArray(ZXArray)", goesOn, made(counting(0, 40), [] { return Ints(forty); })},
             {"ZXArray = ZXArray", goesOn,
-             [](Trial& t) {
-                 const Ints source = counted(40);
-                 Ints array = counted(3);
-                 t.attempt([&] { array = source; });
-                 t.expect(counts(array, 0, t.failed() ? 0 : 40));
-                 array.add(0);
-                 t.expect(array.length() == (t.failed() ? 1 : 41));
-             }},
+             made(counting(0, 40),
+                  [] {
+                      Ints array(3, 1);
+                      array = forty;
+                      return array;
+                  })},
             {"ZXArray add", endsAlloc, edited(counting(0, 33), [](Ints& a) { a.add(32); })},
             {"ZXArray add, an element of its own", endsAlloc,
              edited(ends(33, 31), [](Ints& a) { a.add(a[31]); })},
@@ -119,22 +130,18 @@ Group arrayOperations() {
             {"ZXArray reserve", endsAlloc,
              edited([](Ints& a) { return counts(a, 0, 32) && a.allocLength() >= 1000; },
                     [](Ints& a) { a.reserve(1000); })},
-            {"ZXArray setSize", goesOn,
-             edited([](Ints& a) { return a.length() == 100 && a[31] == 31; },
-                    [](Ints& a) { a.setSize(100); })},
-            {"ZXArray resize", goesOn,
-             edited([](Ints& a) { return a.length() == 100 && a[31] == 31; },
-                    [](Ints& a) { a.resize(100); })},
+            {"ZXArray setSize", goesOn, edited(extended, [](Ints& a) { a.setSize(100); })},
+            {"ZXArray resize", goesOn, edited(extended, [](Ints& a) { a.resize(100); })},
             {"ZXArray resize downward", goesOn,
              edited(counting(0, 8), [](Ints& a) { a.resize(8); })},
             {"ZXArray setAllocSize", goesOn,
              edited(counting(0, 10), [](Ints& a) { a.setAllocSize(10); })},
             {"ZXArray compact", goesOn,
-             [](Trial& t) {
-                 Ints array = counted(5);
-                 t.attempt([&] { array.compact(); });
-                 t.expect(counts(array, 0, 5) && array.allocLength() == (t.failed() ? 32 : 5));
-             }},
+             edited(counting(0, 5),
+                    [](Ints& a) {
+                        a.setSize(5);
+                        a.compact();
+                    })},
             {"ZXArray setEmpty and growth", endsAlloc,
              edited([](Ints& a) { return a.length() == 41 && a[39] == 7; },
                     [](Ints& a) {
@@ -173,31 +180,21 @@ Group listOperations() {
     return {
         "`ZList`, `ZSortList`, `DLList`, `QSort`",
         {
-            {"ZList add", throwsBad,
-             [](Trial& t) {
-                 ZList<int> list{1, 2};
-                 t.attempt([&] { list.add(3); });
-                 t.expect(isRing(list, t.threw() ? 2 : 3));
-             }},
-            {"ZList insert", throwsBad,
-             [](Trial& t) {
-                 ZList<int> list{1, 2};
-                 t.attempt([&] { list.insert(0, 1); });
-                 t.expect(isRing(list, t.threw() ? 2 : 3));
-             }},
+            {"ZList add", throwsBad, listed(3, 4, [](auto& l) { l.add(4); })},
+            {"ZList insert", throwsBad, listed(3, 4, [](auto& l) { l.insert(0, 1); })},
             {"ZList{...}", throwsBad,
-             [](Trial& t) {
-                 std::optional<ZList<int>> list;
-                 t.attempt([&] { list.emplace({1, 2, 3}); });
-                 t.expectDone(list && isRing(*list, 3));
-             }},
-            {"ZList copied", throwsBad,
-             [](Trial& t) {
-                 const ZList<int> source{1, 2, 3};
-                 std::optional<ZList<int>> list;
-                 t.attempt([&] { list.emplace(source); });
-                 t.expectDone(list && isRing(*list, 3));
-             }},
+             listed(3, 2,
+                    [](auto& l) {
+                        l = ZList<int>{1, 2};
+                    })},
+            {"ZList copied", throwsBad, listed(3, 3, [](auto& l) { l = ZList<int>(l); })},
+            {"ZList move", throwsBad, // taken out and not put back
+             listed(2, 3, [](auto& l) { l.move(0, 2); })},
+            {"ZSortList add", throwsBad, listed<ZSortList<int>>(3, 4, [](auto& l) { l.add(2); })},
+            {"ZSortList copied", throwsBad,
+             listed<ZSortList<int>>(3, 3, [](auto& l) { l = ZSortList<int>(l); })},
+            {"ZSortList move", throwsBad, // the element is out, as it is with memory
+             listed<ZSortList<int>>(2, 2, [](auto& l) { l.move(0, 1); })},
             {"ZList =", throwsBad,
              [](Trial& t) {
                  const ZList<int> source{1, 2, 3};
@@ -219,12 +216,6 @@ Group listOperations() {
                  t.attempt([&] { list[0] = DPoint(1.0, 2.0); });
                  t.expect(isRing(list, 0));
              }},
-            {"ZList move", throwsBad,
-             [](Trial& t) {
-                 ZList<int> list{1, 2, 3};
-                 t.attempt([&] { list.move(0, 2); });
-                 t.expect(isRing(list, t.threw() ? 2 : 3)); // taken out and not put back
-             }},
             {"ZList joined, injected, removed, handed over", asksNothing,
              [](Trial& t) {
                  ZList<int> list{1, 2, 3};
@@ -238,33 +229,6 @@ Group listOperations() {
                      list = std::move(moved);
                  });
                  t.expect(isRing(list, 3) && isRing(other, 0));
-             }},
-            {"ZSortList add", throwsBad,
-             [](Trial& t) {
-                 ZSortList<int> list;
-                 t.attempt([&] {
-                     for (const int value : {3, 1, 2})
-                         list.add(value);
-                 });
-                 t.expect(isRing(list, list.length()));
-                 t.expectDone(list.length() == 3 && list[0] == 1 && list[2] == 3);
-             }},
-            {"ZSortList copied", throwsBad,
-             [](Trial& t) {
-                 ZSortList<int> source;
-                 source.add(2);
-                 source.add(1);
-                 std::optional<ZSortList<int>> list;
-                 t.attempt([&] { list.emplace(source); });
-                 t.expectDone(list && isRing(*list, 2));
-             }},
-            {"ZSortList move", throwsBad,
-             [](Trial& t) {
-                 ZSortList<int> list;
-                 list.add(1);
-                 list.add(2);
-                 t.attempt([&] { list.move(0, 1); });
-                 t.expect(isRing(list, 1)); // the element is out, as it is with memory
              }},
             {"DLList insert, join, remove", asksNothing,
              [](Trial& t) {

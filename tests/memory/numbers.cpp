@@ -26,20 +26,9 @@ auto computed(const SigUInt& result, Work work) {
     };
 }
 
-/// base^exponent mod modulus by squaring alone.
-SigUInt plainPower(const SigUInt& base, unsigned exponent, const SigUInt& modulus) {
-    SigUInt power = 1;
-    for (unsigned bit = 1u << 31; bit != 0; bit >>= 1) {
-        power = power * power % modulus;
-        if ((exponent & bit) != 0)
-            power = power * base % modulus;
-    }
-    return power;
-}
-
 void raised(Trial& trial, const SigUInt& modulus) {
     const SigUInt base = ones(13000);
-    const SigUInt expected = plainPower(base, 1000003, modulus);
+    const SigUInt expected = a_exp_b_mod_c(base, 1000003, modulus); // while there is memory
     SigUInt power;
     trial.attempt([&] { power = a_exp_b_mod_c(base, 1000003, modulus); });
     trial.expect(power == expected);
@@ -52,19 +41,11 @@ Group numberOperations() {
         "`SigUInt`, `a_exp_b_mod_c`",
         {
             {"SigUInt of bytes", endsAlloc,
-             [](Trial& t) {
-                 const std::vector<unsigned char> bytes(2500, 0xFF);
-                 std::optional<SigUInt> number;
-                 t.attempt([&] { number.emplace(bytes.data(), 2500); });
-                 t.expect(number && *number == ones(20000));
-             }},
+             computed(ones(20000), [bytes = std::vector<unsigned char>(2500, 0xFF)](
+                                       const SigUInt&) { return SigUInt(bytes.data(), 2500); })},
             {"SigUInt of words", endsAlloc,
-             [](Trial& t) {
-                 const std::vector<unsigned short> words(1250, 0xFFFF);
-                 std::optional<SigUInt> number;
-                 t.attempt([&] { number.emplace(words.data(), 1250); });
-                 t.expect(number && *number == ones(20000));
-             }},
+             computed(ones(20000), [words = std::vector<unsigned short>(1250, 0xFFFF)](
+                                       const SigUInt&) { return SigUInt(words.data(), 1250); })},
             {"SigUInt copied", endsAlloc,
              computed(ones(20000), [](const SigUInt& n) { return SigUInt(n); })},
             {"SigUInt + and ++", endsAlloc,
@@ -75,24 +56,14 @@ Group numberOperations() {
              computed((ones(20000) << 20000) - ones(20000),
                       [](const SigUInt& n) { return n * n; })},
             {"SigUInt *= itself", endsAlloc,
-             [](Trial& t) {
-                 SigUInt number = ones(9000);
-                 const SigUInt square = (ones(9000) << 9000) - ones(9000);
-                 t.attempt([&] { number *= number; });
-                 t.expect(number == square);
-             }},
+             computed((ones(20000) << 20000) - ones(20000), [](SigUInt n) { return n *= n; })},
             {"SigUInt %", endsAlloc,
              computed(ones(2000),
                       [divisor = ones(9000)](const SigUInt& n) { return n % divisor; })},
             {"SigUInt << and >>", endsAlloc,
              computed(ones(20000), [](const SigUInt& n) { return (n << 5000) >> 5000; })},
             {"SigUInt getHex", endsAlloc,
-             [](Trial& t) {
-                 const SigUInt number = ones(20000);
-                 std::optional<ZString> digits;
-                 t.attempt([&] { digits.emplace(number.getHex()); });
-                 t.expect(digits && digits->length() == 5000);
-             }},
+             computed(5000, [](const SigUInt& n) { return n.getHex().length(); })},
             {"SigUInt of 256 bits", asksNothing,
              [](Trial& t) {
                  t.attempt([&] {
@@ -133,31 +104,19 @@ Group runtimeOperations() {
             {"ZGUIDWrapper setters", asksNothing,
              [](Trial& t) {
                  ZGUIDWrapper shape(0);
-                 t.attempt([&] {
-                     shape.setCircle();
-                     shape.setValid(0);
-                     shape.setValid(1);
-                 });
+                 t.attempt([&] { shape.setCircle(); });
                  t.expect(shape.isCircle() && shape.getString().length() == 36);
              }},
-            {"ZarnexException", throwsBad,
+            {"ZarnexException, copied and assigned", throwsBad,
              [](Trial& t) {
-                 std::optional<ZarnexException> error;
-                 t.attempt([&] {
-                     error.emplace("a message that is too long for a short one", 12, nullptr);
-                 });
-                 t.expectDone(error && error->errCode() == 12);
-             }},
-            {"ZarnexException copied", throwsBad,
-             [](Trial& t) {
-                 const ZarnexException error("a message that is too long for a short one", 12,
-                                             nullptr);
+                 const char* const message = "a message that is too long for a short one";
                  ZarnexException other;
                  t.attempt([&] {
+                     const ZarnexException error(message, 12, nullptr);
                      const ZarnexException copy(error);
                      other = copy;
                  });
-                 t.expectDone(std::strcmp(other.what(), error.what()) == 0);
+                 t.expectDone(std::strcmp(other.what(), message) == 0 && other.errCode() == 12);
                  t.expect(*other.what() != '\0');
              }},
             {"locks and reference counts, for the first time", asksNothing,
