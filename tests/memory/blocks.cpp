@@ -26,7 +26,7 @@ bool isFilled(ZArray<float>& array, int count) {
 /// `edit` on an array of 0, 1 and so on, whose status is 0 unless it fails, makes it as `isDone`
 /// tells.
 template <class Edit, class Done>
-auto edited(Edit edit, Done isDone) {
+auto filled(Edit edit, Done isDone) {
     return [=](Trial& trial) {
         ZArray<float> array(16, 0);
         for (int i = 0; i < 20; ++i)
@@ -79,22 +79,22 @@ Group blockOperations() {
                  });
              }},
             {"ZArray[] and reset", endsSilent,
-             edited([](auto& a) { return (a[500] = 7.0f, a.reset()); },
+             filled([](auto& a) { return (a[500] = 7.0f, a.reset()); },
                     [](auto& a) { return isFilled(a, 10); })},
             {"ZArray insert", endsSilent,
-             edited([](auto& a) { return (a.insert(-1.0f, 0), 0); },
+             filled([](auto& a) { return (a.insert(-1.0f, 0), 0); },
                     [](auto& a) { return a[0] == -1.0f && a[1] == 0.0f && a[10] == 9.0f; })},
             {"ZArray remove", endsSilent,
-             edited([](auto& a) { return (a.remove(1), 0); },
+             filled([](auto& a) { return (a.remove(1), 0); },
                     [](auto& a) { return a[0] == 1.0f && a[8] == 9.0f; })},
             {"ZArray move", endsSilent,
-             edited([](auto& a) { return a.move(40, 0, 10, 1); },
+             filled([](auto& a) { return a.move(40, 0, 10, 1); },
                     [](auto& a) { return isFilled(a, 20) && a[40] == 0.0f && a[49] == 9.0f; })},
             {"ZArray copy", endsSilent,
-             edited([](auto& a) { return a.copy(40, 0, 10, 1); },
+             filled([](auto& a) { return a.copy(40, 0, 10, 1); },
                     [](auto& a) { return isFilled(a, 20) && a[40] == 0.0f && a[49] == 9.0f; })},
             {"ZArray freeze and restore", endsAlloc, // the cache is all zero
-             edited([](auto& a) { return a.freeze() + a.restore(); },
+             filled([](auto& a) { return a.freeze() + a.restore(); },
                     [](auto& a) { return a[9] == 0.0f && a[19] == 19.0f; })},
             {"ZArrayManager", asksNothing,
              [](Trial& t) { t.attempt([] { ZArrayManager(64).growHeap(); }); }},
