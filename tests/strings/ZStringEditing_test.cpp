@@ -108,10 +108,9 @@ TEST(ZString, FindsOneOfASet) {
 TEST(ZString, ReplacesFromLeftToRightWithoutSearchingTheReplacement) {
     const struct {
         const wchar_t *text, *find, *replace, *result;
-    } rows[] = {{L"aaa", L"aa", L"b", L"ba"}, {L"aaa", L"a", L"aa", L"aaaaaa"},
-                {L"abc", L"B", L"y", L"abc"}, {L"abc", L"abc", L"", L""},
-                {L"abc", L"b", null, L"ac"},  {L"abc", L"", L"x", L"abc"},
-                {L"abc", null, L"x", L"abc"}, {L"", L"a", L"x", L""}};
+    } rows[] = {{L"aaa", L"a", L"aa", L"aaaaaa"}, {L"abc", L"B", L"y", L"abc"},
+                {L"abc", L"b", null, L"ac"},      {L"abc", L"", L"x", L"abc"},
+                {L"abc", null, L"x", L"abc"},     {L"", L"a", L"x", L""}};
     for (const auto& row : rows) {
         SCOPED_TRACE(testing::Message() << shown(row.text) << " " << shown(row.find));
         ZString string(row.text);
@@ -130,62 +129,14 @@ TEST(ZString, ReplacesFromLeftToRightWithoutSearchingTheReplacement) {
         EXPECT_EQ(string[i], L'\0') << "what was given up stays empty: " << i;
 }
 
-TEST(ZString, SlicesByStartAndCount) {
-    const struct {
-        int start, count;
-        const wchar_t* slice;
-    } rows[] = {
-        {1, 3, L"ell"},       {-2, -1, L"lo"}, {-2, 0, L""},
-        {10, 2, L""},         {5, 1, L""},     {0, 99, L"hello"},
-        {-7, 1, L"l"},        {4, 1, L"o"},    {INT_MAX, INT_MAX, L""},
-        {2, INT_MIN, L"llo"},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(testing::Message() << row.start << " " << row.count);
-        EXPECT_EQ(wide(ZString(L"hello").subString(row.start, row.count)), row.slice);
-    }
-    EXPECT_EQ(wide(ZString().subString(-2, 5)), L"");
-}
-
-TEST(ZString, CutsToSlotsAndKeepsShorterTextAndTheAllocation) {
-    const std::wstring before(100, L'x');
-    for (const int n : {110, 100, 1, 0, -1}) {
-        SCOPED_TRACE(n);
-        ZString truncated(before.c_str()), resized(truncated), emptied(truncated), reset(truncated);
-        const auto buffer = [](const ZString& s) { return static_cast<const wchar_t*>(s); };
-        const wchar_t* const buffers[] = {buffer(emptied), buffer(reset)};
-        truncated.truncate(n);
-        resized.resize(n);
-        emptied.empty();
-        reset.reset();
-        for (const ZString* string : {&truncated, &resized}) {
-            EXPECT_EQ(wide(*string), before.substr(0, std::size_t((std::max)(n, 0))));
-            EXPECT_EQ(string->allocLength(), (std::max)(n, 0) + 1);
-        }
-        EXPECT_TRUE(buffer(emptied) == buffers[0] && buffer(reset) == buffers[1]);
-        EXPECT_TRUE(emptied.allocLength() == 1 && reset.allocLength() == 1 && emptied == reset);
-    }
-}
-
-TEST(ZString, TrimsBlanksTabsAndLineEnds) {
-    const struct {
-        const wchar_t *text, *left, *right;
-    } rows[] = {
-        {L" \t\r\nab \t\r\n", L"ab \t\r\n", L" \t\r\nab"},
-        {L" \t", L"", L""},
-        {L"\v\u00A0x\v", L"\v\u00A0x\v", L"\v\u00A0x\v"}, // other white space stays
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(testing::Message() << shown(row.text));
-        ZString left(row.text);
-        left.resize(40);
-        ZString right(left);
-        left.trimLeft();
-        right.trimRight();
-        EXPECT_EQ(wide(left), row.left);
-        EXPECT_EQ(wide(right), row.right);
-        EXPECT_EQ(left.allocLength(), left.length() + 1);
-        EXPECT_EQ(right.allocLength(), right.length() + 1);
+TEST(ZString, EmptyingKeepsTheAllocation) {
+    for (auto empty : {&ZString::empty, &ZString::reset}) {
+        ZString string(std::wstring(100, L'x').c_str());
+        const wchar_t* const before = static_cast<const ZString&>(string);
+        (string.*empty)();
+        EXPECT_EQ(string.allocLength(), 1);
+        EXPECT_EQ(wide(string), L"");
+        EXPECT_EQ(static_cast<const wchar_t*>(static_cast<const ZString&>(string)), before);
     }
 }
 
@@ -201,7 +152,7 @@ TEST(ZString, EditsLikeTheStandardString) {
     const auto piece = [&](int most) {
         std::wstring text(static_cast<std::size_t>(pick(most + 1)), L' ');
         for (wchar_t& unit : text)
-            unit = L"ab "[pick(3)];
+            unit = L"aaabbb \t\r\n\v"[pick(11)]; // trimmed but for the last
         return text;
     };
     for (int step : {-1, 0, 1, 5, 32}) {
@@ -209,7 +160,10 @@ TEST(ZString, EditsLikeTheStandardString) {
         std::wstring model;
         for (int turn = 0; turn < 3000; ++turn) {
             const std::wstring text = piece(6);
-            switch (pick(8)) {
+            const int size = static_cast<int>(model.size()), kind = pick(9);
+            const int odd[] = {INT_MIN, -1, size, INT_MAX};
+            const int start = pick(6) == 0 ? odd[pick(4)] : pick(80) - 40, count = pick(12) - 2;
+            switch (kind) {
             case 0:
                 string += text.c_str();
                 model += text;
@@ -221,45 +175,49 @@ TEST(ZString, EditsLikeTheStandardString) {
             case 2: {
                 const std::wstring wanted = piece(2) + L"a";
                 string.findAndReplace(wanted.c_str(), text.c_str());
-                std::size_t at = 0;
-                while ((at = model.find(wanted, at)) != model.npos) {
+                for (std::size_t at = 0; (at = model.find(wanted, at)) != model.npos;) {
                     model.replace(at, wanted.size(), text);
                     at += text.size();
                 }
                 break;
             }
-            case 3: {
-                const int start = pick(20);
-                string = string.subString(start, 30);
-                model = start < static_cast<int>(model.size())
-                            ? model.substr(static_cast<std::size_t>(start), 30)
-                            : L"";
+            case 3: // a negative start counts from the end, round and round
+                string = string.subString(start, count);
+                model =
+                    start >= size || size == 0
+                        ? L""
+                        : model.substr(static_cast<std::size_t>((start % size + size) % size),
+                                       count < 0 ? model.npos : static_cast<std::size_t>(count));
                 break;
-            }
             case 4:
                 string.trimLeft();
-                model.erase(0, model.find_first_not_of(L' '));
+                model.erase(0, model.find_first_not_of(L" \t\r\n"));
                 break;
             case 5:
                 string.trimRight();
-                model.erase(model.find_last_not_of(L' ') + 1);
+                model.erase(model.find_last_not_of(L" \t\r\n") + 1);
                 break;
             case 6:
-                string.truncate(turn % 50);
-                model.resize((std::min)(model.size(), static_cast<std::size_t>(turn % 50)));
+            case 7: {
+                const int slots = turn % 50 - 1;
+                kind == 6 ? string.truncate(slots) : string.resize(slots);
+                ASSERT_EQ(string.allocLength(), (std::max)(slots, 0) + 1);
+                model.resize(static_cast<std::size_t>(std::clamp(slots, 0, size)));
                 break;
-            case 7:
+            }
+            case 8:
                 std::wcscpy(string, text.c_str());
                 string.resize();
                 model = text;
                 break;
             }
             ASSERT_EQ(wide(string), model) << "step " << step << ", turn " << turn;
+            if (kind == 4 || kind == 5) {
+                ASSERT_EQ(string.allocLength(), string.length() + 1);
+            }
             const auto found = model.find(text);
-            ASSERT_EQ(string.findString(text.c_str()), text.empty() ? static_cast<int>(model.size())
-                                                       : found == model.npos
-                                                           ? -1
-                                                           : static_cast<int>(found));
+            ASSERT_EQ(string.findString(text.c_str()),
+                      static_cast<int>(text.empty() ? model.size() : found));
         }
     }
 }
