@@ -7,6 +7,7 @@
 #include <cmath>
 #include <functional>
 #include <random>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -187,22 +188,20 @@ TEST(ZXArray, CopiesTakeSpareSlotsAndBookkeeping) {
     source.setAll(3);
     source.setEmpty(9);
     source.setSize(2);
-    for (int i = 0; i < 2; ++i) {
-        Ints copy = i == 0 ? Ints(source) : Ints(100, 1);
-        copy = source;
-        const Ints& reader = copy;
-        EXPECT_EQ(reader.length(), 2);
-        EXPECT_EQ(reader.allocLength(), 8);
-        EXPECT_EQ(reader.getStep(), 4);
-        EXPECT_EQ(reader[5], 9);
-        EXPECT_EQ(reader[100], 9);
-        EXPECT_NE(static_cast<const int*>(reader), static_cast<const int*>(source));
-        copy = Ints();
-        EXPECT_EQ(copy.allocLength(), 0);
+    Ints assigned(100, 1);
+    assigned = source;
+    const Ints copied(source);
+    source = static_cast<const Ints&>(source);
+    for (const Ints* const array : {&copied, &std::as_const(assigned), &std::as_const(source)}) {
+        EXPECT_EQ(contents(*array), (std::vector{3, 3}));
+        EXPECT_EQ(array->allocLength(), 8);
+        EXPECT_EQ(array->getStep(), 4);
+        EXPECT_EQ((*array)[5], 9);
+        EXPECT_EQ((*array)[100], 9);
     }
-    const Ints& same = source;
-    source = same;
-    EXPECT_EQ(source.length(), 2);
+    EXPECT_NE(static_cast<const int*>(copied), static_cast<const int*>(std::as_const(source)));
+    assigned = Ints();
+    EXPECT_EQ(assigned.allocLength(), 0);
 }
 
 TEST(ZXArray, EqualityComparesUsedElements) {

@@ -18,29 +18,25 @@ namespace {
 using zarnex::errorSize;
 
 TEST(StringUtils, SizesCountTheTerminatorAndNullIsAnError) {
+    EXPECT_EQ(StringUtils::bufferSize(""), 1u);
+    EXPECT_EQ(StringUtils::bufferSize(L"abc"), 4u);
+    EXPECT_EQ(StringUtils::multiByteSize("abc"), 4u);
+    EXPECT_EQ(StringUtils::multiByteSize(L""), 1u);
     const auto [bytes, unit] = systemLetter();
+    EXPECT_EQ(StringUtils::multiByteSize(unit.c_str()), bytes.size() + 1);
+    EXPECT_EQ(StringUtils::unicodeSize(bytes.c_str()), 2u);
+    EXPECT_EQ(StringUtils::unicodeSize(L"abc"), 4u);
+    EXPECT_EQ(StringUtils::stringLength(bytes.c_str()), 1u);
+    EXPECT_EQ(StringUtils::stringLength(""), 0u);
+    EXPECT_EQ(StringUtils::stringLength(L"abc"), 3u);
     constexpr const char* noBytes = nullptr;
     constexpr const wchar_t* noUnits = nullptr;
-    const struct {
-        std::size_t ofBytes, ofUnits, ofNoBytes, ofNoUnits, expectedBytes, expectedUnits;
-    } rows[] = {
-        {StringUtils::bufferSize(bytes.c_str()), StringUtils::bufferSize(L"abc"),
-         StringUtils::bufferSize(noBytes), StringUtils::bufferSize(noUnits), bytes.size() + 1, 4},
-        {StringUtils::multiByteSize(bytes.c_str()), StringUtils::multiByteSize(unit.c_str()),
-         StringUtils::multiByteSize(noBytes), StringUtils::multiByteSize(noUnits), bytes.size() + 1,
-         bytes.size() + 1},
-        {StringUtils::unicodeSize(bytes.c_str()), StringUtils::unicodeSize(L"abc"),
-         StringUtils::unicodeSize(noBytes), StringUtils::unicodeSize(noUnits), 2, 4},
-        {StringUtils::stringLength(bytes.c_str()), StringUtils::stringLength(L""),
-         StringUtils::stringLength(noBytes), StringUtils::stringLength(noUnits), 1, 0},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(&row - rows);
-        EXPECT_EQ(row.ofBytes, row.expectedBytes);
-        EXPECT_EQ(row.ofUnits, row.expectedUnits);
-        EXPECT_EQ(row.ofNoBytes, errorSize);
-        EXPECT_EQ(row.ofNoUnits, errorSize);
-    }
+    for (std::size_t size :
+         {StringUtils::bufferSize(noBytes), StringUtils::bufferSize(noUnits),
+          StringUtils::multiByteSize(noBytes), StringUtils::multiByteSize(noUnits),
+          StringUtils::unicodeSize(noBytes), StringUtils::unicodeSize(noUnits),
+          StringUtils::stringLength(noBytes), StringUtils::stringLength(noUnits)})
+        EXPECT_EQ(size, errorSize);
 }
 
 template <class Out, class Char>

@@ -118,14 +118,14 @@ TEST(ZString, ReplacesFromLeftToRightWithoutSearchingTheReplacement) {
         EXPECT_EQ(wide(string), row.result);
         EXPECT_EQ(string.allocLength(), string.length() + 1);
     }
-    ZString string(L"aXb");
+    ZString string(L"aXbX");
     string.truncate(20);
-    string.truncate(3);
+    string.truncate(4);
     const wchar_t* const before = string;
     string.findAndReplace(L"X", L"yy");
     EXPECT_EQ(static_cast<const wchar_t*>(string), before) << "there was room";
     string.truncate(20);
-    for (int i = 4; i <= 20; ++i)
+    for (int i = 6; i <= 20; ++i)
         EXPECT_EQ(string[i], L'\0') << "what was given up stays empty: " << i;
 }
 

@@ -170,36 +170,31 @@ TEST(Utf8, WritesWholeCharactersAndNothingBehindThem) {
     }
 }
 
-// By the functions that return what they make, and by those that fill what is given.
-ZMultiByteString narrowed(const ZString& text, const unsigned* codePage, bool filling) {
-    ZMultiByteString out("before");
-    const ZWideString units(text);
-    if (!filling)
-        return codePage == nullptr ? strToMbs(text) : wideToMbs(units, *codePage);
-    codePage == nullptr ? wideToMbs(units, out) : strToMbs(text, out, *codePage);
-    return out;
-}
-
-ZString widened(const ZMultiByteString& bytes, const unsigned* codePage, bool filling) {
-    ZString text(L"before");
-    ZWideString units(L"before");
-    if (!filling)
-        return codePage == nullptr ? ZString(mbsToWide(bytes)) : mbsToStr(bytes, *codePage);
-    codePage == nullptr ? mbsToStr(bytes, text) : mbsToWide(bytes, units, *codePage);
-    return codePage == nullptr ? text : ZString(units);
-}
-
 TEST(CodePages, TheFunctionsTakeTheCodePageOrTheSystems) {
+    const ZWideString broad(L"\u00E9");
+    const ZMultiByteString narrow = wideToMbs(broad, 1252);
+    EXPECT_EQ(bytesOf(narrow), "\xE9");
+    EXPECT_EQ(unitsOf(mbsToWide(narrow, 1252)), L"\u00E9");
+    EXPECT_EQ(wide(mbsToStr(narrow, 1252)), L"\u00E9");
+    EXPECT_EQ(bytesOf(strToMbs(L"\u00E9", utf8)), "\xC3\xA9");
+    ZMultiByteString bytesOut;
+    strToMbs(L"\u00E9", bytesOut, 1252);
+    EXPECT_EQ(bytesOf(bytesOut), "\xE9");
+    ZString stringOut;
+    mbsToStr(narrow, stringOut, 1252);
+    EXPECT_EQ(wide(stringOut), L"\u00E9");
+
     const ZMultiByteString system(ZString(L"\u00E9"), 0);
-    const ZString back(ZWideString(static_cast<const char*>(system)));
-    const unsigned western = 1252;
-    for (const bool filling : {false, true}) {
-        EXPECT_EQ(bytesOf(narrowed(L"\u00E9", &western, filling)), "\xE9");
-        EXPECT_EQ(wide(widened("\xE9", &western, filling)), L"\u00E9");
-        EXPECT_EQ(bytesOf(narrowed(L"\u00E9", &utf8, filling)), "\xC3\xA9");
-        EXPECT_EQ(bytesOf(narrowed(L"\u00E9", nullptr, filling)), bytesOf(system));
-        EXPECT_EQ(wide(widened(system, nullptr, filling)), wide(back));
-    }
+    EXPECT_EQ(bytesOf(strToMbs(L"\u00E9")), bytesOf(system));
+    EXPECT_EQ(bytesOf(wideToMbs(broad)), bytesOf(system));
+    wideToMbs(broad, bytesOut);
+    EXPECT_EQ(bytesOf(bytesOut), bytesOf(system));
+    ZWideString wideOut;
+    mbsToWide(system, wideOut);
+    const std::wstring back = unitsOf(mbsToWide(system));
+    EXPECT_EQ(unitsOf(wideOut), back);
+    EXPECT_EQ(wide(mbsToStr(system)), back);
+    EXPECT_EQ(unitsOf(ZWideString(static_cast<const char*>(system))), back);
     EXPECT_EQ(unitsOf(ZWideString(static_cast<const char*>(system), 0)), L"");
     EXPECT_EQ(ZWideString("abc", 2).allocLength(), 3);
     EXPECT_EQ(unitsOf(ZWideString("abc", 2)), L"ab");
