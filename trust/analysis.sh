@@ -32,7 +32,7 @@ cpp_check() {
         --suppress=noDestructor:zarnex/runtime/internal/Immortal.h \
         --suppress=memsetClass:zarnex/containers/ZXArrayDefinitions.h \
         --suppress=virtualCallInConstructor:zarnex/containers/ZGroupable.h \
-        --suppress=uninitMemberVar "${unread[@]/#/--suppress=syntaxError:}" \
+        --suppress=uninitMemberVar --suppress=uninitDerivedMemberVar "${unread[@]/#/--suppress=syntaxError:}" \
         -D__linux__ -D__x86_64__ -D__SSE2__ -D__GNUC__=12 zarnex examples
 }
 
