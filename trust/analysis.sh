@@ -32,8 +32,8 @@ cpp_check() {
         --suppress=noDestructor:zarnex/runtime/internal/Immortal.h \
         --suppress=memsetClass:zarnex/containers/ZXArrayDefinitions.h \
         --suppress=virtualCallInConstructor:zarnex/containers/ZGroupable.h \
-        --suppress=uninitMemberVar --suppress=uninitDerivedMemberVar "${unread[@]/#/--suppress=syntaxError:}" \
-        -D__linux__ -D__x86_64__ -D__SSE2__ -D__GNUC__=12 zarnex examples
+        --suppress=uninitMemberVar --suppress=uninitDerivedMemberVar \
+        "${unread[@]/#/--suppress=syntaxError:}" -D__linux__ -D__x86_64__ -D__SSE2__ -D__GNUC__=12 zarnex examples
 }
 
 # That of g++ 12 knows neither exceptions nor the containers of the standard library: what it says
