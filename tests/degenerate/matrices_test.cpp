@@ -246,9 +246,14 @@ TEST(DegenerateChains, PointersAreInTheOrderOfAddresses) {
             Pointer a(addresses[i]);
             const Pointer b(addresses[k]);
             const ArbTrans<DPoint>* plain = addresses[k];
-            EXPECT_TRUE((a == b) == (i == k) && (a != b) == (i != k) && (a < b) == (i < k));
-            EXPECT_TRUE((a > b) == (i > k) && (a == plain) == (i == k) && (a < plain) == (i < k));
-            EXPECT_TRUE((a > plain) == (i > k) && (a != plain) == (i != k));
+            EXPECT_TRUE((a == b) == (i == k) && (a != b) == (i != k) && (a < b) == (i < k) &&
+                        (a > b) == (i > k));
+            EXPECT_TRUE((a == plain) == (i == k) && (a != plain) == (i != k) &&
+                        (a < plain) == (i < k) && (a > plain) == (i > k));
+            EXPECT_TRUE((plain == a) == (i == k) && (plain != a) == (i != k) &&
+                        (plain < a) == (i > k) && (plain > a) == (i < k));
+            EXPECT_TRUE((a == addresses[k]) == (i == k) && (addresses[k] < a) == (i > k));
+            EXPECT_TRUE((a == nullptr) == (i == 0) && (nullptr != b) == (k != 0));
             EXPECT_TRUE(a.getPointer() == addresses[i] && b.getPointer() == plain);
             EXPECT_TRUE(static_cast<ArbTrans<DPoint>*>(b) == plain &&
                         (i != k || a.hash() == b.hash()));
@@ -257,7 +262,7 @@ TEST(DegenerateChains, PointersAreInTheOrderOfAddresses) {
             }
         }
     }
-    EXPECT_TRUE(Pointer() == nullptr && Pointer().hash() == 0);
+    EXPECT_TRUE(Pointer() == nullptr && Pointer() == 0 && Pointer().hash() == 0);
 }
 
 } // namespace
