@@ -194,31 +194,31 @@ TEST(Lengths, RenderInOtherUnits) {
     }
 }
 
-TEST(Lengths, ConvertAmongEachOtherByAssignment) {
-    const ZMillimeter millimeter(ZString(L"3 mm x")); // 3.0 and invalid: the flag comes along
-    const ZCentimeter centimeter(3.0);
-    const ZInch inch(3.0);
-    const ZEmbPoint point(3.0);
-    const ZSpi spi(3.0);
-    ASSERT_EQ(double(millimeter), 3.0);
-    ASSERT_FALSE(millimeter.isValid());
-    checkAssigned<ZMillimeter>(centimeter, 3 * 10.0);
-    checkAssigned<ZMillimeter>(inch, 3 * 25.4);
-    checkAssigned<ZMillimeter>(point, 3 / 10.0);
-    checkAssigned<ZMillimeter>(spi, 25.4 / 3);
-    checkAssigned<ZCentimeter>(millimeter, 3 / 10.0);
-    checkAssigned<ZCentimeter>(inch, 3 * 2.54);
-    checkAssigned<ZCentimeter>(point, 3 / 100.0);
-    checkAssigned<ZCentimeter>(spi, 2.54 / 3);
-    checkAssigned<ZInch>(millimeter, 3 / 25.4);
-    checkAssigned<ZInch>(centimeter, 3 / 2.54);
-    checkAssigned<ZInch>(point, 3 / 254.0);
-    checkAssigned<ZInch>(spi, 1.0 / 3);
-    checkAssigned<ZEmbPoint>(millimeter, 3 * 10.0);
-    checkAssigned<ZEmbPoint>(centimeter, 3 * 100.0);
-    checkAssigned<ZEmbPoint>(inch, 3 * 254.0);
-    checkAssigned<ZEmbPoint>(spi, 254.0 / 3);
+// What 3 of each become; the first is invalid, and the flag comes along.
+template <class Target>
+void checkAssignedFromEach(double fromMillimeter, double fromCentimeter, double fromInch,
+                           double fromPoint, double fromSpi) {
+    if constexpr (!std::is_same_v<Target, ZMillimeterPerSec>) // takes it as text and as number
+        checkAssigned<Target>(ZMillimeter(ZString(L"3 mm x")), fromMillimeter);
+    checkAssigned<Target>(ZCentimeter(3.0), fromCentimeter);
+    checkAssigned<Target>(ZInch(3.0), fromInch);
+    checkAssigned<Target>(ZEmbPoint(3.0), fromPoint);
+    checkAssigned<Target>(ZSpi(3.0), fromSpi);
+}
+
+TEST(Quantities, ConvertAmongEachOtherByAssignment) {
+    ASSERT_FALSE(ZMillimeter(ZString(L"3 mm x")).isValid());
+    checkAssignedFromEach<ZMillimeter>(3, 30, 3 * 25.4, 3 / 10.0, 25.4 / 3);
+    checkAssignedFromEach<ZCentimeter>(3 / 10.0, 3, 3 * 2.54, 3 / 100.0, 2.54 / 3);
+    checkAssignedFromEach<ZInch>(3 / 25.4, 3 / 2.54, 3, 3 / 254.0, 1.0 / 3);
+    checkAssignedFromEach<ZEmbPoint>(30, 300, 3 * 254.0, 3, 254.0 / 3);
+    checkAssignedFromEach<ZSpi>(25.4 / 3, 2.54 / 3, 1.0 / 3, 254.0 / 3, 3);
+    checkAssignedFromEach<ZMillimeterPerSec>(3, 30, 3 * 25.4, 3 / 10.0, 25.4 / 3);
+    checkAssignedFromEach<ZCentimeterPerSec>(3 / 10.0, 3, 3 * 2.54, 3 / 100.0, 2.54 / 3);
     checkAssigned<ZMillimeter>(ZSpi(-2.0), -12.7);
+    checkAssigned<ZSpi>(ZMillimeterPerSec(-2.0), -12.7);
+    checkAssigned<ZSpi>(ZCentimeterPerSec(2.0), 1.27);
+    checkAssigned<ZMillimeterPerSec>(ZCentimeterPerSec(2.0), 20.0);
 }
 
 TEST(Lengths, ADensityOfZeroIsTheLengthZeroExceptInPoints) {
