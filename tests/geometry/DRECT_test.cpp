@@ -3,11 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstddef>
 #include <cstring>
-
-static_assert(sizeof(DRECT) == 32 && offsetof(DRECT, top) == 8 && offsetof(DRECT, right) == 16);
-static_assert(sizeof(DBLPOINT) == 16 && offsetof(DBLPOINT, y) == 8);
 
 namespace {
 
@@ -103,6 +99,7 @@ TEST(DRECT, NullPointersAreHarmless) {
     DRECT r = ten;
     const DBLPOINT p = {1, 2};
     SetDRectEmpty(nullptr);
+    SetDRect(nullptr, 1, 2, 3, 4);
     CopyDRect(nullptr, &r);
     CopyDRect(&r, nullptr);
     InflateDRect(nullptr, 1, 1);

@@ -43,15 +43,6 @@ Key keyOf(const Id& id) {
     return key;
 }
 
-TEST(ZGUIDWrapper, StandsAsGuidFlagAndText) {
-    const Id id(bead1);
-    const auto* const start = reinterpret_cast<const char*>(&id);
-    const int valid = 1;
-    EXPECT_TRUE(std::memcmp(start, &bead1, 16) == 0 && std::memcmp(start + 16, &valid, 4) == 0);
-    EXPECT_EQ(reinterpret_cast<const char*>(&id.getString()), start + 24);
-    EXPECT_EQ(sizeof id, 24 + sizeof(ZString));
-}
-
 TEST(ZGUIDWrapper, BuiltInShapesHaveFixedIdentifiers) {
     const struct {
         void (Id::*set)();

@@ -1,5 +1,3 @@
-#include "tests/slots.h"
-
 #include "tests/geometry/coordinates.h"
 
 #include <zarnex/transforms/CompositeTrans.h>
@@ -74,15 +72,6 @@ TEST(Chains, DeleteWhatTheyOwn) {
         EXPECT_EQ(Step::alive, 3);
     }
     EXPECT_EQ(Step::alive, 1);
-}
-
-TEST(Chains, FieldsAndSlotsStandInTheirOrder) {
-    static_assert(sizeof(IdTrans<DPoint>) == sizeof(void*));
-    static_assert(sizeof(ReverseTrans<DPoint>) == 3 * sizeof(void*));
-    static_assert(sizeof(Chain) == sizeof(std::list<Arb*>) + 2 * sizeof(void*));
-    static_assert(sizeof(Pointer) == 2 * sizeof(void*));
-    EXPECT_EQ(slotOf(&Arb::transform), 2);
-    EXPECT_EQ(slotOf(&Arb::reverseTransform), 3);
 }
 
 TEST(ZHashablePointer, IsFoundInListsByThePlainPointer) {

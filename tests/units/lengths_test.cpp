@@ -1,4 +1,3 @@
-#include "tests/slots.h"
 #include "tests/units/quantityChecks.h"
 
 #include <zarnex/units/ZCentimeter.h>
@@ -310,32 +309,6 @@ TEST(ZCentimeter, ReadsThroughItsVirtualSetValue) {
     metric.setStringWithUnits(L"2 in", 1);
     EXPECT_EQ(double(metric), 2.0);
     EXPECT_EQ(metric.calls, 3) << "the unit, the preferred unit, the own unit";
-}
-
-// Names the protected slot.
-class Named : public ZCentimeter {
-public:
-    static auto setValueSlot() {
-        return &Named::setValue;
-    }
-};
-
-TEST(Lengths, SlotsAndPolymorphismAreKept) {
-    EXPECT_EQ(slotOf(Named::setValueSlot()), 0);
-    EXPECT_EQ(slotOf(&ZCentimeter::setStringWithUnits), 3);
-    using Text = ZString (ZCentimeter::*)(int);
-    EXPECT_EQ(slotOf(static_cast<Text>(&ZCentimeter::getStringWithUnits)), 4);
-    EXPECT_EQ(slotOf(static_cast<Text>(&ZCentimeter::getDensityStringWithUnits)), 5);
-    using Conversion = ZString (ZCentimeter::*)();
-    using ConstConversion = ZString (ZCentimeter::*)() const;
-    EXPECT_EQ(slotOf(static_cast<Conversion>(&ZCentimeter::operator ZString)), 6);
-    EXPECT_EQ(slotOf(static_cast<ConstConversion>(&ZCentimeter::operator ZString)), 7);
-    EXPECT_FALSE(std::is_polymorphic_v<ZMillimeter>);
-    EXPECT_TRUE(std::has_virtual_destructor_v<ZInch>);
-    EXPECT_TRUE(std::has_virtual_destructor_v<ZEmbPoint>);
-    EXPECT_EQ(sizeof(ZMillimeter), 16u);
-    EXPECT_EQ(sizeof(ZInch), 24u);
-    EXPECT_EQ(sizeof(ZEmbPoint), 24u);
 }
 
 TEST(Lengths, ReadAndRenderUnderALocaleWithAComma) {
