@@ -116,8 +116,8 @@ TEST(DegenerateRandom, EverySeedAndIndexGivesNumbersInRange) {
         large.randseed(seed);
         for (const int index : {625, 624, 0, -1, INT_MIN, INT_MAX}) {
             large.index = index;
-            for (const double value : {static_cast<double>(small.random()), large.random(),
-                                       large.randomOpenEnd(), static_cast<double>(zrnrandom())})
+            for (const double value : {double(small.random()), large.random(),
+                                       large.randomOpenEnd(), double(zrnrandom())})
                 EXPECT_TRUE(value >= 0.0 && value < 1.0) << seed << " " << index;
             EXPECT_LE(large.randomClosedEnd(), 1.0);
         }
