@@ -19,6 +19,7 @@ namespace {
 constexpr double infinity = std::numeric_limits<double>::infinity();
 const double nan = std::nan("");
 
+// Millimetres a second refuse inches and points; neither speed takes a density.
 TEST(Quantities, ReadEachUnitInTheirOwnOrAsABareNumber) {
     const struct {
         const wchar_t* text;
