@@ -87,7 +87,7 @@ public:
     /// Frees the storage that a number of more than 256 bits took.
     ~SigUInt();
 
-    /// Takes as many steps as the longer operand has limbs of 64 bits.
+    /// Adds `other`, in as many steps as the longer operand has limbs of 64 bits.
     SigUInt& operator+=(const SigUInt& other);
 
     /// Takes `other` away, down to zero.
@@ -96,8 +96,8 @@ public:
     /// language wrap round.
     SigUInt& operator-=(const SigUInt& other);
 
-    /// Takes m * n steps for short operands of m and n limbs of 64 bits, and about
-    /// n * m^0.585 for long ones, n being the longer.
+    /// Multiplies by `other`. Takes m * n steps for short operands of m and n limbs of 64
+    /// bits, and about n * m^0.585 for long ones, n being the longer.
     SigUInt& operator*=(const SigUInt& other);
 
     /// The remainder of the division by `other`. Takes (m - n + 1) * n steps for m limbs over

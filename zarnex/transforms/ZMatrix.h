@@ -54,10 +54,9 @@ public:
     /// Sets every element to 0; the shape stays.
     virtual void clear();
 
-    /// Compares the shapes, where derived classes invert.
+    /// Returns 0 if `out` has the shape of this matrix, else 1.
     ///
-    /// Kept as is: inverts nothing and writes nothing. Returns 0 if `out` has the shape
-    /// of this matrix, else 1. Z2DMatrix::invert() inverts.
+    /// Kept as is: inverts nothing and writes nothing. Z2DMatrix::invert() inverts.
     virtual int invert(ZMatrix& out) const;
 
     /// Solves a system of equations in derived classes.
