@@ -135,7 +135,8 @@ def output_of(command, folder):
     with open(log, "wb") as out:
         status = subprocess.run(command, cwd=folder, stdin=subprocess.DEVNULL, stdout=out,
                                 stderr=subprocess.STDOUT, check=False).returncode
-    return log.read_bytes().decode("utf-8", "replace").replace("\r\n", "\n"), status
+    text = log.read_bytes().decode("utf-8", "replace").replace("\r\n", "\n")
+    return re.sub(r" +$", "", text, flags=re.M), status  # no file has blanks at the ends of lines
 
 
 def difference(shown, printed):
