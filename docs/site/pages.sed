@@ -1,7 +1,16 @@
-# What Doxygen 1.9.4 reads instead of a page: in the code of tables it drops blanks that stand at the
-# ends or side by side, so they become ones that do not break.
+# What Doxygen 1.9.4 reads instead of a page; blocks of code stay as they are.
+/^```/,/^```$/b
+
+# In the code of tables it drops blanks that stand at the ends or side by side: they become ones that
+# do not break.
 /^|/ {
     s/  /\xC2\xA0\xC2\xA0/g
     s/| ` /| `\xC2\xA0/g
     s/ ` |/\xC2\xA0` |/g
 }
+
+# It takes two hyphens for a dash, also those of an option outside of code.
+/`/! s/ --\([a-z]\)/ \\--\1/g
+
+# It sees no emphasis in front of a quotation mark.
+s/^- \*\("[^*]*\)\*/- <em>\1<\/em>/

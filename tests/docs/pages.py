@@ -1,13 +1,13 @@
-"""Whether the links of the pages lead somewhere and their code is on the site as it was written.
+"""Whether the links of the pages lead somewhere, and all of a page is on the site as it was written.
 
     python3 tests/docs/pages.py                     # the Markdown files in the tree
     python3 tests/docs/pages.py --site build/docs/html
 
 In the tree a link names a file, from the folder of its page; one to a section is refused, since
 Doxygen and the viewers of repositories name sections differently. On the site all pages are
-tried with their anchors and pictures; each page of docs/ must be in the contents, and all code of
-a page in what Doxygen made of it, which reads some Markdown in its own way. Addresses elsewhere are
-not asked for. Prints the faults, one a line; the status is 1 if there are any.
+tried with their anchors and pictures; each page of docs/ must be in the contents, and all words and
+code of a page in what Doxygen made of it, which reads some Markdown in its own way. Addresses
+elsewhere are not asked for. Prints the faults, one a line; the status is 1 if there are any.
 """
 
 import html.parser
@@ -52,12 +52,13 @@ def tree_faults():
 
 
 class Page(html.parser.HTMLParser):
-    """What a page of the site links to, what can be linked to in it, and its code."""
+    """What a page of the site links to, what can be linked to in it, its text and its code."""
 
     def __init__(self, path):
         super().__init__()
         self.links = set()
         self.anchors = set()
+        self.text = ""
         self.code = {""}
         self.inside = None  # of the tag whose text is code, and the text so far
         self.feed(path.read_text("utf-8"))
@@ -72,6 +73,7 @@ class Page(html.parser.HTMLParser):
             self.inside = [tag, ""]
 
     def handle_data(self, data):
+        self.text += data
         if self.inside:
             self.inside[1] += data
 
@@ -86,8 +88,12 @@ def plain(code):
     return " ".join(code.replace("\xa0", " ").replace("\u200b", "").split())
 
 
-def code_faults(path, page):
+def written_faults(path, page):
     text, lines = split(path.read_text("utf-8"))
+    words = re.sub(r"\]\([^)\s]*\)|<!--.*?-->", " ", SPAN.sub(" ", text), flags=re.S)
+    for word in re.sub(r"[][*|]|^ *(#+|-|\d+\.) |!\[|---+", " ", words, flags=re.M).split():
+        if word not in page.text:
+            yield f"{path.relative_to(ROOT)}: not on the site as written: {word}"
     for code in [code for _, code in SPAN.findall(text)] + lines:
         # In tables, a bar is written with a backslash.
         if plain(code) not in page.code and plain(code.replace("\\|", "|")) not in page.code:
@@ -117,7 +123,7 @@ def site_faults(site):
         if name not in built["index.html"].links:
             yield f"docs/site/header.html: the contents lack {page.relative_to(ROOT)}"
         elif name in built:
-            yield from code_faults(page, built[name])
+            yield from written_faults(page, built[name])
 
 
 def main(arguments):
