@@ -1,5 +1,13 @@
-// Marks the page in the contents, with its sections below, and lets wide tables scroll by themselves.
+// Marks the page in the contents, with its sections below, lets wide tables scroll by themselves, and
+// gives a title to the pages that Doxygen leaves without one.
 document.addEventListener("DOMContentLoaded", function () {
+    if (!document.querySelector(".title")) {
+        const header = document.createElement("div");
+        header.className = "header";
+        header.innerHTML = '<div class="headertitle"><div class="title"></div></div>';
+        header.querySelector(".title").textContent = document.title.split(" - ")[0];
+        document.querySelector(".contents").before(header);
+    }
     const page = location.pathname.split("/").pop() || "index.html";
     const here = document.querySelector('#contents a[href$="' + page + '"]');
     const titles = document.querySelectorAll(".textblock h1, .textblock h2");
