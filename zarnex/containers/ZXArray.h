@@ -3,6 +3,7 @@
 #include <zarnex/config.h>
 #include <zarnex/containers/ZList.h>
 
+#include <cstddef>
 #include <type_traits>
 #include <utility>
 
@@ -27,6 +28,16 @@
 template <class T>
 class ZARNEX_WIDE ZXArray {
 public:
+    using value_type = T;
+    using size_type = std::size_t;
+    using difference_type = std::ptrdiff_t;
+    using reference = T&;
+    using const_reference = const T&;
+    using pointer = T*;
+    using const_pointer = const T*;
+    using iterator = T*;
+    using const_iterator = const T*;
+
     /// No storage, length 0, step -1.
     ZXArray();
 
@@ -144,6 +155,24 @@ public:
     int length() const;
     int allocLength() const;
     int allocBytes() const;
+
+    // ---- As standard containers have it. Operations that change the length or the
+    // allocation leave pointers and iterators dangling.
+
+    /// The elements in use, from the first to behind the last; both null without storage.
+    /// Nothing grows.
+    iterator begin();
+    const_iterator begin() const;
+    const_iterator cbegin() const;
+    iterator end();
+    const_iterator end() const;
+    const_iterator cend() const;
+
+    /// The first slot; null without storage.
+    T* data();
+    const T* data() const;
+
+    std::size_t size() const; ///< length()
 
     int getStep() const;
     int setStep(int step);

@@ -391,6 +391,46 @@ int ZXArray<T>::allocBytes() const {
 }
 
 template <class T>
+ZARNEX_TEMPLATE_INLINE T* ZXArray<T>::begin() {
+    return data_;
+}
+template <class T>
+ZARNEX_TEMPLATE_INLINE const T* ZXArray<T>::begin() const {
+    return data_;
+}
+template <class T>
+ZARNEX_TEMPLATE_INLINE const T* ZXArray<T>::cbegin() const {
+    return data_;
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE T* ZXArray<T>::end() {
+    return data_ + length_;
+}
+template <class T>
+ZARNEX_TEMPLATE_INLINE const T* ZXArray<T>::end() const {
+    return data_ + length_;
+}
+template <class T>
+ZARNEX_TEMPLATE_INLINE const T* ZXArray<T>::cend() const {
+    return data_ + length_;
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE T* ZXArray<T>::data() {
+    return data_;
+}
+template <class T>
+ZARNEX_TEMPLATE_INLINE const T* ZXArray<T>::data() const {
+    return data_;
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE std::size_t ZXArray<T>::size() const {
+    return static_cast<std::size_t>(length_);
+}
+
+template <class T>
 ZARNEX_TEMPLATE_INLINE int ZXArray<T>::getStep() const {
     return step_;
 }
