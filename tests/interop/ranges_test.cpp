@@ -9,6 +9,7 @@
 #include <numeric>
 #include <ranges>
 #include <span>
+#include <string>
 #include <type_traits>
 #include <vector>
 
@@ -62,7 +63,7 @@ TEST(Ranges, AnArrayIsItsElementsInUse) {
     EXPECT_EQ(std::vector<double>(reading.begin(), reading.end()),
               (std::vector<double>{2.0, 4.0, 6.0}));
     EXPECT_EQ(*std::ranges::lower_bound(array, 3.0), 4.0);
-    EXPECT_EQ(*std::rbegin(reading), 6.0);
+    EXPECT_EQ(*std::ranges::rbegin(reading), 6.0);
 }
 
 TEST(Ranges, ArraysOfStringsSortByTheirOwnOrder) {
@@ -70,8 +71,9 @@ TEST(Ranges, ArraysOfStringsSortByTheirOwnOrder) {
     for (const wchar_t* name : {L"needle", L"Bobbin", L"hoop"})
         names.add(name);
     std::sort(names.begin(), names.end()); // without regard to case
-    EXPECT_TRUE(std::ranges::equal(names, std::vector<ZString>{L"Bobbin", L"hoop", L"needle"},
-                                   &ZString::isEqual, std::identity(), std::identity()));
+    std::vector<std::wstring> sorted;
+    std::ranges::transform(names, std::back_inserter(sorted), zarnex::toWstring);
+    EXPECT_EQ(sorted, (std::vector<std::wstring>{L"Bobbin", L"hoop", L"needle"}));
 }
 
 TEST(Ranges, AListIsItsElementsInOrder) {

@@ -19,7 +19,8 @@
 ///
 ///     ZXArray<double> lengths;
 ///     lengths.add(2.5);
-///     lengths[3] = 4.0; // length 4
+///     lengths[1] = 1.0; // length 2
+///     std::sort(lengths.begin(), lengths.end());
 ///
 /// Nothing throws but the copying of elements that throws, such as that of lists. Where
 /// storage cannot be had, operations that must return a slot end the process with "failed
@@ -156,11 +157,16 @@ public:
     int allocLength() const;
     int allocBytes() const;
 
-    // ---- As standard containers have it. Operations that change the length or the
-    // allocation leave pointers and iterators dangling.
+    int getStep() const;
+    int setStep(int step);
 
-    /// The elements in use, from the first to behind the last; both null without storage.
-    /// Nothing grows.
+    /// Exchanges the whole state of two arrays.
+    void swap(ZXArray& other) noexcept;
+
+    // ---- As standard containers have it
+
+    /// The elements in use, from the first to behind the last; both null without storage. Good
+    /// until the length or the allocation changes, which these do not.
     iterator begin();
     const_iterator begin() const;
     const_iterator cbegin() const;
@@ -173,12 +179,6 @@ public:
     const T* data() const;
 
     std::size_t size() const; ///< length()
-
-    int getStep() const;
-    int setStep(int step);
-
-    /// Exchanges the whole state of two arrays.
-    void swap(ZXArray& other) noexcept;
 
 protected:
     /// The allocation that the growth rule gives for `n` slots; 0 for `n` < 1.
