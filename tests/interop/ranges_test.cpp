@@ -63,7 +63,12 @@ TEST(Ranges, AnArrayIsItsElementsInUse) {
     EXPECT_EQ(std::vector<double>(reading.begin(), reading.end()),
               (std::vector<double>{2.0, 4.0, 6.0}));
     EXPECT_EQ(*std::ranges::lower_bound(array, 3.0), 4.0);
-    EXPECT_EQ(*std::ranges::rbegin(reading), 6.0);
+    EXPECT_EQ(std::vector<double>(reading.rbegin(), reading.rend()),
+              (std::vector<double>{6.0, 4.0, 2.0}));
+    *array.rbegin() = 7.0;
+    *std::prev(array.rend()) = 1.0;
+    EXPECT_EQ(std::vector<double>(array.crbegin(), array.crend()),
+              (std::vector<double>{7.0, 4.0, 1.0}));
 }
 
 TEST(Ranges, ArraysOfStringsSortByTheirOwnOrder) {

@@ -70,6 +70,7 @@ TEST(StandardStrings, IllFormedTextBecomesReplacementCharacters) {
 
 TEST(StandardStrings, TextEndsAtTheFirstZeroAndWhereTheViewEnds) {
     EXPECT_TRUE(fromWstring(L"hoop\0needle"s).isEqual(L"hoop"));
+    EXPECT_EQ(fromWstring(L"hoop\0needle"s).allocLength(), 5); // nothing is kept behind it
     EXPECT_TRUE(fromUtf8("hoop\0needle"s).isEqual(L"hoop"));
     EXPECT_TRUE(fromWstring(std::wstring_view(L"needle").substr(0, 4)).isEqual(L"need"));
     EXPECT_TRUE(fromUtf8(std::string_view("\xC3\xA9xyz").substr(0, 3)).isEqual(L"\u00E9x"));

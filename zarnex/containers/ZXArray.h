@@ -4,6 +4,7 @@
 #include <zarnex/containers/ZList.h>
 
 #include <cstddef>
+#include <iterator>
 #include <type_traits>
 #include <utility>
 
@@ -38,6 +39,8 @@ public:
     using const_pointer = const T*;
     using iterator = T*;
     using const_iterator = const T*;
+    using reverse_iterator = std::reverse_iterator<T*>;
+    using const_reverse_iterator = std::reverse_iterator<const T*>;
 
     /// No storage, length 0, step -1.
     ZXArray();
@@ -173,6 +176,12 @@ public:
     iterator end();
     const_iterator end() const;
     const_iterator cend() const;
+    reverse_iterator rbegin();
+    const_reverse_iterator rbegin() const;
+    const_reverse_iterator crbegin() const;
+    reverse_iterator rend();
+    const_reverse_iterator rend() const;
+    const_reverse_iterator crend() const;
 
     /// The first slot; null without storage.
     T* data();

@@ -417,6 +417,32 @@ ZARNEX_TEMPLATE_INLINE const T* ZXArray<T>::cend() const {
 }
 
 template <class T>
+ZARNEX_TEMPLATE_INLINE typename ZXArray<T>::reverse_iterator ZXArray<T>::rbegin() {
+    return reverse_iterator(end());
+}
+template <class T>
+ZARNEX_TEMPLATE_INLINE typename ZXArray<T>::const_reverse_iterator ZXArray<T>::rbegin() const {
+    return const_reverse_iterator(end());
+}
+template <class T>
+ZARNEX_TEMPLATE_INLINE typename ZXArray<T>::const_reverse_iterator ZXArray<T>::crbegin() const {
+    return const_reverse_iterator(end());
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE typename ZXArray<T>::reverse_iterator ZXArray<T>::rend() {
+    return reverse_iterator(begin());
+}
+template <class T>
+ZARNEX_TEMPLATE_INLINE typename ZXArray<T>::const_reverse_iterator ZXArray<T>::rend() const {
+    return const_reverse_iterator(begin());
+}
+template <class T>
+ZARNEX_TEMPLATE_INLINE typename ZXArray<T>::const_reverse_iterator ZXArray<T>::crend() const {
+    return const_reverse_iterator(begin());
+}
+
+template <class T>
 ZARNEX_TEMPLATE_INLINE T* ZXArray<T>::data() {
     return data_;
 }

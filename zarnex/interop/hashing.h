@@ -15,9 +15,9 @@
 /// - IPoint, IVector, ZCoord, ZVector, ZTPoint and GPoint, whose equality is exact.
 /// - ZHashInt and ZHashablePointer.
 ///
-/// There is none for DPoint, DVector and the quantities: equality within a tolerance is not
-/// transitive, so that only a constant would agree with it. Take as the key what the tolerance is
-/// to be, as in an IPoint of thousandths.
+/// There is none for DPoint and DVector, whose equality allows a tolerance, nor for the quantities,
+/// some of which do: that is not transitive, so that only a constant would agree with it. Take what
+/// is exact for a key, such as an IPoint of thousandths.
 ///
 /// Values are for one run of one program: unlike those of the members hash() and the functors in
 /// hashFunctions.h, they may change with the compiler and the library.
