@@ -66,6 +66,10 @@ TEST(Hashing, InvalidIdentifiersAreOneWhateverTheirText) {
     ASSERT_TRUE(invalid == invalidWithText);
     EXPECT_EQ(hashOf(invalid), hashOf(invalidWithText));
 
+    ZGUIDWrapper sequin;
+    sequin.setSequin1();
+    EXPECT_NE(hashOf(bead), hashOf(sequin));
+
     ZGUIDWrapper again;
     again.setString(&bead.getString());
     EXPECT_EQ(hashOf(again), hashOf(bead));
