@@ -30,6 +30,8 @@
 template <class T>
 class ZARNEX_WIDE ZXArray {
 public:
+    /// What algorithms of the standard library ask for.
+    /// @{
     using value_type = T;
     using size_type = std::size_t;
     using difference_type = std::ptrdiff_t;
@@ -41,6 +43,7 @@ public:
     using const_iterator = const T*;
     using reverse_iterator = std::reverse_iterator<T*>;
     using const_reverse_iterator = std::reverse_iterator<const T*>;
+    /// @}
 
     /// No storage, length 0, step -1.
     ZXArray();
@@ -185,7 +188,8 @@ public:
     /// Exchanges the whole state of two arrays.
     void swap(ZXArray& other) noexcept;
 
-    // ---- As standard containers have it
+    /// @name As standard containers have it
+    /// @{
 
     /// The elements in use, from the first to behind the last; both null without storage. Good
     /// until the length or the allocation changes, which these do not.
@@ -202,11 +206,11 @@ public:
     const_reverse_iterator rend() const;
     const_reverse_iterator crend() const;
 
-    /// The first slot; null without storage.
-    T* data();
-    const T* data() const;
+    T* data();             ///< the first slot; null without storage
+    const T* data() const; ///< the same
 
     std::size_t size() const; ///< length()
+    /// @}
 
 protected:
     /// The allocation that the growth rule gives for `n` slots; 0 for `n` < 1.

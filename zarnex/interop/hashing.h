@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// std::hash, for the unordered containers of the standard library.
 ///
 /// There is one for each class whose equality allows it: what `==` finds equal hashes alike.
@@ -63,34 +64,44 @@ struct PairHash {
 
 } // namespace zarnex::detail
 
+/// The hash of a text without regard to case.
 template <>
 struct std::hash<ZString> {
+    /// ZString::hash(), which the current locale decides.
     std::size_t operator()(const ZString& text) const {
         return static_cast<std::size_t>(text.hash());
     }
 };
 
+/// The hash of a text, by its units.
 template <>
 struct std::hash<ZWideString> {
+    /// The hash of the units.
     std::size_t operator()(const ZWideString& text) const {
         return std::hash<std::wstring_view>()(static_cast<const wchar_t*>(text));
     }
 };
 
+/// The hash of a text, by its bytes.
 template <>
 struct std::hash<ZMultiByteString> {
+    /// The hash of the bytes.
     std::size_t operator()(const ZMultiByteString& text) const {
         return std::hash<std::string_view>()(static_cast<const char*>(text));
     }
 };
 
+/// The hash of an identifier.
 template <>
 struct std::hash<ZGUIDWrapper> {
+    /// The hash of the GUID; 0 for every invalid object.
     std::size_t operator()(const ZGUIDWrapper& id) const {
         return id.isValid() ? static_cast<std::size_t>(id.hash()) : 0; // whatever its text is
     }
 };
 
+/// The hash of a point or a vector, by both coordinates.
+/// @{
 template <>
 struct std::hash<IPoint> : zarnex::detail::PairHash<IPoint> {};
 template <>
@@ -103,16 +114,21 @@ template <class T>
 struct std::hash<ZTPoint<T>> : zarnex::detail::PairHash<ZTPoint<T>> {};
 template <>
 struct std::hash<GPoint> : zarnex::detail::PairHash<GPoint> {};
+/// @}
 
+/// The hash of an integer as a key.
 template <>
 struct std::hash<ZHashInt> {
+    /// The hash of the value.
     std::size_t operator()(const ZHashInt& key) const {
         return std::hash<int>()(key.getInt());
     }
 };
 
+/// The hash of a pointer.
 template <class T>
 struct std::hash<ZHashablePointer<T>> {
+    /// The hash of the address.
     std::size_t operator()(const ZHashablePointer<T>& pointer) const {
         return std::hash<T*>()(pointer);
     }

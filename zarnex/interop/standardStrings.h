@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// ZString from and to the strings of the standard library.
 ///
 ///     const std::string path = zarnex::toUtf8(name);
@@ -47,26 +48,32 @@ String stringOf(std::basic_string_view<Char> text) {
 inline std::wstring_view viewOf(const ZString& text) {
     return static_cast<const wchar_t*>(text);
 }
+/// Not of a string that is about to go.
 std::wstring_view viewOf(const ZString&&) = delete;
 
+/// A copy of the text, unit by unit.
 inline std::wstring toWstring(const ZString& text) {
     return std::wstring(viewOf(text));
 }
 
+/// The text in UTF-8.
 inline std::string toUtf8(const ZString& text) {
     const ZMultiByteString bytes = strToUtf8(text);
     return std::string(static_cast<const char*>(bytes));
 }
 
+/// A copy of `text` up to its first zero, unit by unit.
 inline ZString fromWstring(std::wstring_view text) {
     return detail::stringOf<ZString>(text);
 }
 
+/// The text that `text` is in UTF-8, up to its first zero.
 inline ZString fromUtf8(std::string_view text) {
     return utf8ToStr(detail::stringOf<ZMultiByteString>(text));
 }
 
 #if defined(__cpp_lib_char8_t)
+/// The same, where the language tells UTF-8 apart.
 inline ZString fromUtf8(std::u8string_view text) {
     return fromUtf8(std::string_view(reinterpret_cast<const char*>(text.data()), text.size()));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// Text in the streams of the standard library.
 ///
 ///     std::wcout << name << L" is " << std::setw(10) << zarnex::asText(length) << L'\n';
@@ -41,8 +42,10 @@ using IfQuantity = std::enable_if_t<std::is_base_of_v<typename Class::Quantity, 
 /// A text on its way to a stream. It keeps a copy, so it may outlive what it was made of.
 class StreamText {
 public:
+    /// Holds a copy of `text`.
     explicit StreamText(const ZString& text) : text_(text) {}
 
+    /// In the units of the text.
     template <class Traits>
     friend std::basic_ostream<wchar_t, Traits>& operator<<(std::basic_ostream<wchar_t, Traits>& out,
                                                            const StreamText& shown) {
@@ -61,12 +64,14 @@ private:
 };
 
 /// The text, for streams of either kind. Null is the empty text.
+/// @{
 inline StreamText asText(const ZString& text) {
     return StreamText(text);
 }
 inline StreamText asText(const wchar_t* text) {
     return StreamText(ZString(text));
 }
+/// @}
 
 /// The text that a quantity displays: that of the conversion of an object that is not const, so
 /// a ZMillimeter has the decimals that it needs.
