@@ -111,6 +111,9 @@ public:
 
     long length() const; ///< the number of elements
 
+    /// The same, as standard containers have it. (Their empty() asks; this one removes.)
+    std::size_t size() const;
+
     /// The element at `index`, which wraps; only its lower 32 bits count.
     ///
     /// Not for empty lists: all those of one type answer with one element that is

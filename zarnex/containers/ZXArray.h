@@ -3,6 +3,8 @@
 #include <zarnex/config.h>
 #include <zarnex/containers/ZList.h>
 
+#include <cstddef>
+#include <iterator>
 #include <type_traits>
 #include <utility>
 
@@ -18,7 +20,8 @@
 ///
 ///     ZXArray<double> lengths;
 ///     lengths.add(2.5);
-///     lengths[3] = 4.0; // length 4
+///     lengths[1] = 1.0; // length 2
+///     std::sort(lengths.begin(), lengths.end());
 ///
 /// Nothing throws but the copying of elements that throws, such as that of lists. Where
 /// storage cannot be had, operations that must return a slot end the process with "failed
@@ -27,6 +30,21 @@
 template <class T>
 class ZARNEX_WIDE ZXArray {
 public:
+    /// What algorithms of the standard library ask for.
+    /// @{
+    using value_type = T;
+    using size_type = std::size_t;
+    using difference_type = std::ptrdiff_t;
+    using reference = T&;
+    using const_reference = const T&;
+    using pointer = T*;
+    using const_pointer = const T*;
+    using iterator = T*;
+    using const_iterator = const T*;
+    using reverse_iterator = std::reverse_iterator<T*>;
+    using const_reverse_iterator = std::reverse_iterator<const T*>;
+    /// @}
+
     /// No storage, length 0, step -1.
     ZXArray();
 
@@ -169,6 +187,30 @@ public:
 
     /// Exchanges the whole state of two arrays.
     void swap(ZXArray& other) noexcept;
+
+    /// @name As standard containers have it
+    /// @{
+
+    /// The elements in use, from the first to behind the last; both null without storage. Good
+    /// until the length or the allocation changes, which these do not.
+    iterator begin();
+    const_iterator begin() const;
+    const_iterator cbegin() const;
+    iterator end();
+    const_iterator end() const;
+    const_iterator cend() const;
+    reverse_iterator rbegin();
+    const_reverse_iterator rbegin() const;
+    const_reverse_iterator crbegin() const;
+    reverse_iterator rend();
+    const_reverse_iterator rend() const;
+    const_reverse_iterator crend() const;
+
+    T* data();             ///< the first slot; null without storage
+    const T* data() const; ///< the same
+
+    std::size_t size() const; ///< length()
+    /// @}
 
 protected:
     /// The allocation that the growth rule gives for `n` slots; 0 for `n` < 1.

@@ -15,8 +15,7 @@
 /// ArbTrans<DPoint>.
 ///
 /// Owns nothing: a host deletes what it points to. Stands for the plain pointer in every
-/// other place, and compares with plain pointers on either side. Unordered containers of the
-/// standard library need a functor that calls hash().
+/// other place, and compares with plain pointers on either side.
 template <class T>
 class ZHashablePointer {
 public:
