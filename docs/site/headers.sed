@@ -23,4 +23,4 @@ s/^ *using Z[A-Za-z]*::.*;//
 # Friends: it links to them as to members, but has no place for them. Those that are defined in the
 # class may as well be members.
 s/^ *friend .*;//
-s/^ *friend \(.* {\)$/    \1/
+s/^ *friend \(.*[{,]\)$/    \1/
