@@ -125,6 +125,9 @@ void showLists() {
     ZListNode<int>* const freed = destroyed.object.head_;
     destroyed.object.~ZList();
     destroyed.object.head_ = freed;
+    Raw<ZList<int>> overrun;
+    overrun.object.head_ = numbers.head_;
+    overrun.object.count_ = 2;
     Raw<ZList<int>> garbage;
     std::memset(garbage.bytes, 0xA5, sizeof garbage);
     DLList wrongCount;

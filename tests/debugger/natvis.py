@@ -87,6 +87,8 @@ def checked_as(element, data_type):
 
 
 def main():
+    for command in ("set confirm off", "set print frame-info short-location", "start"):
+        gdb.execute(command, to_string=True)  # once it runs, the library's types are there
     root = xml.etree.ElementTree.parse(os.environ["ZARNEX_NATVIS"]).getroot()
     wrong, types, members = 0, 0, 0
     for element in root.findall(NAMESPACE + "Type"):

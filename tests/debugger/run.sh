@@ -13,6 +13,10 @@ if ! command -v gdb >/dev/null; then
     echo "Skipped: gdb is missing (Debian package gdb)"
     exit 77
 fi
+if ! gdb -batch -nx -ex run --args true 2>&1 | grep -q 'exited normally'; then
+    echo "Skipped: gdb may not run programs here"
+    exit 77
+fi
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 installed=$scratch/auto-load$(dirname "$library")

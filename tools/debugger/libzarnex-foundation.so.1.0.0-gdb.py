@@ -4,7 +4,8 @@ import sys
 
 import gdb
 
-sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+# Not __file__: run from within another script, this one has the other's.
+sys.path.insert(0, os.path.dirname(os.path.abspath(sys._getframe().f_code.co_filename)))
 import zarnex_gdb
 
 zarnex_gdb.register(gdb.current_objfile())

@@ -195,44 +195,38 @@ class Matrix(Elements):
 
 
 class Ring(Printer):
-    """The nodes of a list, each pointing to the next and the last one to the first."""
+    """The nodes of a list, each leading to the next and the last one to the first."""
 
     following = "next"
 
-    def nodes(self):
-        head = self.value["head_"]
+    def nodes(self, most):
+        """At most so many; broken if there are others than the list counts."""
+        head, says = self.value["head_"], int(self.value["count_"])
         node = head
         places = {}
-        while int(head) != 0:
-            address = int(node)
+        closed = int(head) == 0
+        while not closed and len(places) < most:
+            address, place = int(node), len(places)
             if address == 0:
-                raise Broken(f"broken: null after element {len(places) - 1}")
+                raise Broken(f"broken: null after element {place - 1}")
             if address in places:
-                raise Broken(f"broken: element {places[address]} again after {len(places) - 1}")
+                raise Broken(f"broken: element {places[address]} again after {place - 1}")
             try:
                 following = node[self.following]
                 following.fetch_lazy()
             except gdb.MemoryError:
-                raise Broken(f"broken: element {len(places)} unreadable at {address:#x}") from None
-            places[address] = len(places)
+                raise Broken(f"broken: element {place} unreadable at {address:#x}") from None
+            places[address] = place
             yield node
             node = following
-            if int(node) == int(head):
-                return
-
-    def counted(self):
-        """How many nodes, and whether that is all of them; looks no further than gdb shows."""
-        most = most_elements()
-        count = 0
-        for _ in self.nodes():
-            if count == most:
-                return count, False
-            count += 1
-        return count, True
+            closed = int(node) == int(head)
+        if len(places) > says or (closed and len(places) < says):
+            raise Broken(f"broken: {len(places)} elements, but a count of {says}")
 
     def text(self):
-        count, all_of_them = self.counted()
-        return f"of length {count}" if all_of_them else f"of length over {count}"
+        for _ in self.nodes(most_elements()):
+            pass
+        return f"of length {int(self.value['count_'])}"
 
     def to_string(self):
         return f"{name_of(self.value)} {super().to_string()}"
@@ -242,7 +236,7 @@ class Ring(Printer):
 
     def children(self):
         try:
-            for i, node in enumerate(self.nodes()):
+            for i, node in enumerate(self.nodes(LARGEST_COUNT)):
                 yield f"[{i}]", self.element(node)
         except (Broken, gdb.error):
             return  # stands in the summary
@@ -255,13 +249,6 @@ class IntrusiveRing(Ring):
     """Nodes of classes that the host derives."""
 
     following = "next_"
-
-    def text(self):
-        count, all_of_them = self.counted()
-        says = int(self.value["count_"])
-        if count > says or (all_of_them and count != says):
-            raise Broken(f"broken: {count} nodes, but a count of {says}")
-        return f"of length {says}"
 
     def element(self, node):
         try:
