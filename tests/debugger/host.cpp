@@ -7,6 +7,9 @@
 #include <new>
 #include <utility>
 
+#include <sys/mman.h>
+#include <unistd.h>
+
 // Where the debugger stops.
 __attribute__((noinline)) void everythingIsThere(void*) {
     asm volatile("" ::: "memory");
@@ -23,6 +26,16 @@ union Raw {
     unsigned char bytes[sizeof(T)];
     T object;
 };
+
+// The end of a page of zeros with nothing behind it.
+template <class T>
+T* endOfMemory() {
+    const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+    char* const pages = static_cast<char*>(
+        mmap(nullptr, 2 * page, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+    munmap(pages + page, page);
+    return reinterpret_cast<T*>(pages + page);
+}
 
 struct Thread : DLLNode {
     explicit Thread(int number) : colour(number) {}
@@ -53,6 +66,11 @@ void showText() {
     Raw<ZString> endless;
     endless.object.array_.data_ = letters;
     endless.object.array_.allocLength_ = 4;
+    Raw<ZMultiByteString> lastOfPage;
+    lastOfPage.object.array_.data_ = endOfMemory<char>() - 3;
+    lastOfPage.object.array_.data_[0] = 'a';
+    lastOfPage.object.array_.data_[1] = 'b';
+    lastOfPage.object.array_.allocLength_ = 32;
     Raw<ZString> destroyed;
     ::new (&destroyed.object) ZString(L"destroyed");
     destroyed.object.~ZString();
@@ -89,6 +107,16 @@ void showArrays() {
     Raw<ZXArray<int>> huge;
     huge.object.data_ = reinterpret_cast<int*>(16);
     huge.object.length_ = huge.object.allocLength_ = 2000000000;
+    Raw<ZXArray<int>> tooLong;
+    tooLong.object.length_ = 9;
+    tooLong.object.allocLength_ = 8;
+    Raw<ZXArray<int>> cutOff;
+    cutOff.object.data_ = endOfMemory<int>() - 2;
+    cutOff.object.length_ = cutOff.object.allocLength_ = 5;
+    Raw<ZArray<float>> wrongBlock;
+    std::memset(wrongBlock.bytes, 0xA5, sizeof wrongBlock);
+    Raw<ZGroup> wrongGroup;
+    std::memset(wrongGroup.bytes, 0xA5, sizeof wrongGroup);
     Raw<ZMatrix<double>> wrongMatrix;
     wrongMatrix.object.rows_ = -2;
     Raw<ZMatrix<double>> nullMatrix;

@@ -140,13 +140,16 @@ class Elements(Printer):
     def children(self):
         try:
             pointer, length, _ = self.run()
-            for i in range(length):
-                element = (pointer + i).dereference()
+        except (Broken, gdb.error):
+            return  # stands in the summary
+        for i in range(length):
+            element = (pointer + i).dereference()
+            try:
                 element.fetch_lazy()
-                yield f"[{i}]", element
-        except (Broken, gdb.error) as fault:
-            if isinstance(fault, gdb.error):  # the others stand in the summary
-                yield "[...]", f"<{fault}>"
+            except gdb.error as fault:
+                yield f"[{i}]", f"<{fault}>"
+                return
+            yield f"[{i}]", element
 
     def display_hint(self):
         return "array"
