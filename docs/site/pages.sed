@@ -14,3 +14,6 @@
 
 # It sees no emphasis in front of a quotation mark.
 s/^- \*\("[^*]*\)\*/- <em>\1<\/em>/
+
+# It drops a percent sign in front of a word, but not the second of two.
+s/`%\([A-Za-z]\)/`%%\1/g
