@@ -7,10 +7,10 @@
     s/  /\xC2\xA0\xC2\xA0/g
     s/| ` /| `\xC2\xA0/g
     s/ ` |/\xC2\xA0` |/g
-}
 
-# It takes two hyphens for a dash, also those of an option outside of code.
-/`/! s/ --\([a-z]\)/ \\--\1/g
+    # Outside of code it takes the hyphens of an option for a dash.
+    /`/! s/ --\([a-z]\)/ \\--\1/g
+}
 
 # It sees no emphasis in front of a quotation mark.
 s/^- \*\("[^*]*\)\*/- <em>\1<\/em>/

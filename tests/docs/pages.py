@@ -28,10 +28,13 @@ SPAN = re.compile(r"(`+)(.*?)(?<!`)\1(?!`)", re.S)
 
 
 def split(text):
-    """(the text without its blocks of code, the lines of those)."""
-    blocks = re.compile(r"^```.*?\n(.*?)^```", re.M | re.S)
-    lines = [line for block in blocks.findall(text) for line in block.splitlines()]
-    return blocks.sub("", text), lines
+    """(the text without its blocks of code, fenced or indented, the lines of those)."""
+    lines = []
+    for block in (r"^```.*?\n(.*?)^```", r"(?<=\n\n)((?:    .*\n|\n(?=    ))+)"):
+        found = re.compile(block, re.M | re.S if "`" in block else re.M)
+        lines += [line for code in found.findall(text) for line in code.splitlines()]
+        text = found.sub("", text)
+    return text, lines
 
 
 def without_code(text):
@@ -69,7 +72,7 @@ class Page(html.parser.HTMLParser):
                 self.links.add(value)
             elif name in ("id", "name") and value:
                 self.anchors.add(value)
-        if tag == "code" or (tag == "div" and ("class", "line") in attributes):
+        if tag in ("code", "pre") or (tag == "div" and ("class", "line") in attributes):
             self.inside = [tag, ""]
 
     def handle_data(self, data):
@@ -79,7 +82,8 @@ class Page(html.parser.HTMLParser):
 
     def handle_endtag(self, tag):
         if self.inside and tag == self.inside[0]:
-            self.code.add(plain(self.inside[1]))
+            texts = self.inside[1].splitlines() if tag == "pre" else [self.inside[1]]
+            self.code.update(plain(text) for text in texts)
             self.inside = None
 
 
