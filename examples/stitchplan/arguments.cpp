@@ -35,7 +35,8 @@ const char* const motifHelpText =
                           Required
   units in                what numbers without a unit count in from here on;
                           mm at first
-  stitch 2.5 mm           the length of a stitch, or "10 spi"; 2.5 mm if not given
+  stitch 2.5 mm           the length of a stitch, or "10 spi"; 2.5 mm if not
+                          given
   spacing 0.4 mm          from row to row of a fill, or "60 spi"; 0.4 mm if not
                           given
   angle 45 degrees        of the rows, counter-clockwise; 0 if not given
@@ -44,15 +45,17 @@ const char* const motifHelpText =
   point 1 cm, -0.5 in     a corner; several with semicolons between
   close                   ends the outline, which closes with its first point
   circle 9, 0; 0, 9; -9, 0      an outline through three points
-  repeat mirrored         adds the mirror image, left to right, of the whole motif
+  repeat mirrored         adds the mirror image, left to right, of the whole
+                          motif
   repeat flipped          the same upside down
-  repeat 6 by 60 degrees  makes it 6 in all, each turned by 60 degrees from the last
+  repeat 6 by 60 degrees  makes it 6 in all, each turned by 60 degrees from the
+                          last
 
 An outline inside another is a hole in it, one in the hole is filled again; they
-must not touch. Repeats take what the repeats above them made. Copies may overlap
-and are then sewn one over the other. A stitch may be up to 0.3 mm longer than
-asked for where the rest would be shorter than that, and rows of less than 0.3 mm
-are left out.
+must not touch. Repeats take what the repeats above them made. Copies may
+overlap and are then sewn one over the other. A stitch may be up to 0.3 mm
+longer than asked for where the rest would be shorter than that, and rows of
+less than 0.3 mm are left out.
 
 Lengths are typed as for zarnex-units, 10 m at most. There may be 20000 corners,
 1000 copies, 1000000 rows and 10000000 stitches in a file of 4 MiB.

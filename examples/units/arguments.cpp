@@ -14,10 +14,10 @@ const char* const helpText =
        zarnex-units [--unit UNIT] --file FILE | -
        zarnex-units [--unit UNIT]
 
-Reads quantities as people type them, such as "2.5 mm", 3" and "6 stitches". Each
-TEXT is one; it is printed in every unit that it converts to, or in UNIT alone:
-the unit, the display text and the exact number. Without a text, and on a
-terminal, the program asks for them.
+Reads quantities as people type them, such as "2.5 mm", 3" and "6 stitches".
+Each TEXT is one; it is printed in every unit that it converts to, or in UNIT
+alone: the unit, the display text and the exact number. Without a text, and on
+a terminal, the program asks for them.
 
   --check      say of each TEXT whether it is valid and what was seen in it
   --file FILE  make a table of a file with a quantity a line; "-" is the
