@@ -7,10 +7,14 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <string_view>
 #include <utility>
 
 #include <editline/readline.h>
+#include <langinfo.h>
 #include <sys/stat.h>
+
+// NOLINTBEGIN(concurrency-mt-unsafe): the program has one thread
 
 namespace units {
 
@@ -57,7 +61,8 @@ struct LineEditor::State {
 
 LineEditor::LineEditor(std::string prompt) : state_(std::make_unique<State>()) {
     // The library takes what is typed by the locale, the program as UTF-8.
-    if (std::setlocale(LC_CTYPE, "") == nullptr || MB_CUR_MAX == 1)
+    if (std::setlocale(LC_CTYPE, "") == nullptr ||
+        std::string_view(nl_langinfo(CODESET)) != "UTF-8")
         std::setlocale(LC_CTYPE, "C.UTF-8");
     state_->prompt = std::move(prompt);
     state_->history = historyPath();
@@ -102,3 +107,5 @@ bool LineEditor::next(std::string& line) {
 }
 
 } // namespace units
+
+// NOLINTEND(concurrency-mt-unsafe)
