@@ -85,11 +85,13 @@ bool LineEditor::next(std::string& line) {
             std::free(text);
         }
     };
-    std::unique_ptr<char, Free> typed(readline(state_->prompt.c_str()));
-    while (typed == nullptr && interrupted != 0) { // Ctrl-C gives up the line, not the prompt
+    std::unique_ptr<char, Free> typed;
+    for (;;) {
         interrupted = 0;
-        std::fputc('\n', stdout);
         typed.reset(readline(state_->prompt.c_str()));
+        if (typed != nullptr || interrupted == 0)
+            break;
+        std::fputc('\n', stdout); // Ctrl-C gives up the line, not the prompt
     }
     if (typed == nullptr)
         return false;
