@@ -1,4 +1,4 @@
-#include "LineEditor.h"
+#include "units/LineEditor.h"
 
 #include "common/Reading.h"
 

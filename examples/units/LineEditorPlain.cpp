@@ -1,5 +1,5 @@
-#include "LineEditor.h"
-#include "LineReader.h"
+#include "units/LineEditor.h"
+#include "units/LineReader.h"
 
 #include "common/Reading.h"
 #include "common/platform.h"

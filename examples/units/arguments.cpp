@@ -1,4 +1,4 @@
-#include "arguments.h"
+#include "units/arguments.h"
 
 #include "common/CommandLine.h"
 #include "common/unitNames.h"

@@ -3,10 +3,10 @@
 /// A host program of the library, to read and to copy from: Reading runs the
 /// scanner, Quantity.h converts, rendering.cpp displays.
 
-#include "LineReader.h"
-#include "arguments.h"
-#include "prompt.h"
-#include "rendering.h"
+#include "units/LineReader.h"
+#include "units/arguments.h"
+#include "units/prompt.h"
+#include "units/rendering.h"
 
 #include "common/CommandLine.h"
 #include "common/Messages.h"

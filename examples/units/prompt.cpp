@@ -1,7 +1,7 @@
-#include "prompt.h"
+#include "units/prompt.h"
 
-#include "LineEditor.h"
-#include "rendering.h"
+#include "units/LineEditor.h"
+#include "units/rendering.h"
 
 #include "common/Reading.h"
 #include "common/unitNames.h"
