@@ -1,7 +1,7 @@
 # Sourced by ./dev: what is quick to say about the sources without running them. The thorough
 # analyses are the trial `analysis`.
 
-lint_packages=(clang-format-14 shellcheck python3)
+lint_packages=(clang-format-14 mandoc shellcheck python3)
 
 # All checks print what they find, one place a line, and fail if there is anything.
 
@@ -12,8 +12,10 @@ lint_format() { tracked '*.cpp' '*.h' | xargs -P "$jobs" -n 16 clang-format-14 -
 # What is sourced has the variables of ./dev.
 lint_shell() {
     shellcheck --external-sources --severity=warning dev .ci/run &&
-        tracked '*.sh' | xargs shellcheck --shell=bash --severity=warning --exclude=SC2154
+        tracked '*.sh' 'examples/completion/*' | xargs shellcheck --shell=bash --severity=warning --exclude=SC2154
 }
+
+lint_man() { tracked 'docs/man/*' | xargs mandoc -T lint; }
 
 lint_python() {
     tracked '*.py' | xargs python3 -c '
@@ -65,7 +67,7 @@ run_lint() {
     local check failed=() log
     need "${lint_packages[@]}" || fail "Cannot lint: $reason"
     log=$(mktemp)
-    for check in format shell python text links; do
+    for check in format shell man python text links; do
         if "lint_$check" >"$log" 2>&1; then
             say "$check: nothing found"
         else
