@@ -12,7 +12,7 @@
 
 struct tagPOINT;
 struct tagNONCLIENTMETRICSW;
-typedef struct tagNONCLIENTMETRICSW NONCLIENTMETRICSW;
+typedef tagNONCLIENTMETRICSW NONCLIENTMETRICSW;
 
 #else
 
@@ -41,7 +41,7 @@ struct tagLOGFONTW {
     unsigned char lfPitchAndFamily;
     char16_t lfFaceName[32];
 };
-typedef struct tagLOGFONTW LOGFONTW;
+typedef tagLOGFONTW LOGFONTW;
 
 /// Sizes and fonts of the parts of a window outside its client area.
 struct tagNONCLIENTMETRICSW {
@@ -62,7 +62,7 @@ struct tagNONCLIENTMETRICSW {
     LOGFONTW lfMessageFont;
     std::int32_t iPaddedBorderWidth;
 };
-typedef struct tagNONCLIENTMETRICSW NONCLIENTMETRICSW;
+typedef tagNONCLIENTMETRICSW NONCLIENTMETRICSW;
 
 static_assert(sizeof(NONCLIENTMETRICSW) == 504, "the layout of the platform's record");
 
@@ -70,6 +70,11 @@ static_assert(sizeof(NONCLIENTMETRICSW) == 504, "the layout of the platform's re
 #if !defined(GUID_DEFINED)
 #define GUID_DEFINED
 
+// The reserved name is the platform's, and part of the names of functions.
+#if defined(__clang__) && __clang_major__ >= 13
+#pragma clang diagnostic push
+#pragma clang diagnostic ignored "-Wreserved-identifier"
+#endif
 /// A globally unique identifier. Its text form is the hexadecimal digits of Data1,
 /// Data2, Data3, the first two bytes of Data4 and the other six, joined by hyphens.
 typedef struct _GUID {
@@ -78,6 +83,9 @@ typedef struct _GUID {
     std::uint16_t Data3;
     unsigned char Data4[8];
 } GUID;
+#if defined(__clang__) && __clang_major__ >= 13
+#pragma clang diagnostic pop
+#endif
 
 static_assert(sizeof(GUID) == 16, "the layout of the platform's record");
 
