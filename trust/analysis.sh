@@ -17,7 +17,7 @@ for preset in linux windows; do
 done
 find zarnex examples -name '*.cpp' ! -ipath '*windows*' | sort >"$work/sources"
 scripts=(dev .ci/run)
-mapfile -t sourced < <(find trust bench tests -name '*.sh' | sort)
+mapfile -t sourced < <(find trust bench tests tools -name '*.sh' | sort)
 
 clang_tidy() { xargs -P "$jobs" -n 1 clang-tidy-14 --quiet -p build/linux <"$work/sources"; }
 
