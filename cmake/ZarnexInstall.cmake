@@ -25,7 +25,7 @@ install(FILES
     DESTINATION ${package_dir} COMPONENT development)
 
 set(pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
-file(RELATIVE_PATH prefix_from_pkgconfig /${pkgconfig_dir} /)
+string(REGEX REPLACE "[^/]+" ".." prefix_from_pkgconfig ${pkgconfig_dir})
 configure_file(${CMAKE_CURRENT_LIST_DIR}/zarnex-foundation.pc.in
     ${PROJECT_BINARY_DIR}/zarnex-foundation.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/zarnex-foundation.pc

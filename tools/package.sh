@@ -5,6 +5,7 @@
 
 packages=$PWD/build/packages
 work=$packages/work
+debian=(libzarnex-foundation1 libzarnex-foundation-dev zarnex-tools)
 host_sources=$PWD/tests/package
 
 package_files() {
@@ -58,58 +59,64 @@ field() {
     [[ $found == *"$3"* ]] || fail "$2 of $1 is \"$found\", without \"$3\""
 }
 
-debian_packages() {
-    local name=$1 root=$work/root deb debs=() as_root=()
+# build_debian NAME: builds the packages from the source archive.
+build_debian() {
     say "" "=== Debian packages ==="
-    tar --extract --file="$packages/$name.tar.xz" --directory="$work"
-    (cd "$work/$name" && DEB_BUILD_OPTIONS="parallel=$jobs nocheck" \
+    tar --extract --file="$packages/$1.tar.xz" --directory="$work"
+    (cd "$work/$1" && DEB_BUILD_OPTIONS="parallel=$jobs nocheck" \
         dpkg-buildpackage --build=binary --no-sign) </dev/null >"$work/debian.log" 2>&1 ||
-        fail "$(tail -n 40 "$work/debian.log")" "The build failed: $work/debian.log"
-
-    say "lintian:"
-    lintian --allow-root --fail-on error,warning --tag-display-limit 0 "$work"/*.changes ||
-        fail "lintian objects"
-    say "nothing to object to"
+        fail "$(tail -n 40 "$work/debian.log")" "The build failed"
+    lintian --allow-root --suppress-tags no-manual-page --fail-on error,warning \
+        "$work"/*.changes || fail "lintian objects"
+    say "lintian has nothing to object to"
     mv "$work"/*.deb "$packages"
+}
 
+# check_debian ROOT: the packages unpacked into ROOT.
+check_debian() {
+    local package
     field libzarnex-foundation-dev Depends "libzarnex-foundation1 (= $version)"
     field zarnex-tools Depends "libzarnex-foundation1 (>= "
-    for deb in libzarnex-foundation1 libzarnex-foundation-dev zarnex-tools; do
-        debs+=("$packages/${deb}_${version}_amd64.deb")
-        dpkg-deb --extract "${debs[-1]}" "$root"
+    for package in "${debian[@]}"; do
+        dpkg-deb --extract "$packages/${package}_${version}_amd64.deb" "$1"
     done
-    ! readelf --dynamic "$root"/usr/bin/zarnex-* | grep -E 'R(UN)?PATH' ||
+    if readelf --dynamic "$1"/usr/bin/zarnex-* | grep -E 'R(UN)?PATH'; then
         fail "An installed program names a place of libraries"
-    LD_LIBRARY_PATH=$root/usr/lib/x86_64-linux-gnu \
-        try_debian "$root/usr/bin" prefix -D PREFIX="$root/usr"
-    say "Unpacked elsewhere, they work: programs, find_package, pkg-config"
+    fi
+    LD_LIBRARY_PATH=$1/usr/lib/x86_64-linux-gnu \
+        try_debian "$1/usr/bin" prefix -D PREFIX="$1/usr"
+    say "Unpacked elsewhere they work: programs, find_package, pkg-config"
+}
 
-    if dpkg --status libzarnex-foundation1 zarnex-tools 2>/dev/null | grep -q '^Status: .* installed'; then
-        say "Installation not tried: they are installed already"
+# install_debian: the packages installed, tried, and removed without a trace, where that can be.
+install_debian() {
+    local apt=() files=() path status=0
+    if dpkg --status "${debian[@]}" 2>/dev/null | grep -q '^Status: .* installed'; then
+        say "Not tried installed: they are on this machine already"
         return
     fi
     if [[ $(id -u) != 0 ]]; then
         if ! sudo -n true 2>/dev/null; then
-            say "Installation not tried: neither root nor sudo without a password"
+            say "Not tried installed: neither root nor sudo without a password"
             return
         fi
-        as_root=(sudo -n)
+        apt=(sudo -n)
     fi
-    as_root+=(env DEBIAN_FRONTEND=noninteractive apt-get -y -q)
-    "${as_root[@]}" install "${debs[@]}" </dev/null >"$work/install.log" 2>&1 ||
-        fail "$(<"$work/install.log")" "Cannot install them"
-    dpkg --listfiles libzarnex-foundation1 libzarnex-foundation-dev zarnex-tools |
-        grep -E 'zarnex' | sort -u >"$work/installed"
-    local outcome=0
-    (try_debian /usr/bin system) || outcome=1
-    "${as_root[@]}" purge libzarnex-foundation1 libzarnex-foundation-dev zarnex-tools \
-        </dev/null >>"$work/install.log" 2>&1 || fail "$(<"$work/install.log")" "Cannot remove them"
-    ((outcome == 0)) || fail "Installed, they do not work"
-    while read -r deb; do
-        [[ ! -e $deb ]] || fail "Left behind: $deb"
+    files=("${debian[@]/#/$packages/}")
+    files=("${files[@]/%/_${version}_amd64.deb}")
+    apt+=(env DEBIAN_FRONTEND=noninteractive apt-get -y -q)
+    "${apt[@]}" install "${files[@]}" \
+        </dev/null >"$work/apt.log" 2>&1 || fail "$(<"$work/apt.log")" "Cannot install them"
+    dpkg --listfiles "${debian[@]}" | grep zarnex | sort -u >"$work/installed"
+    (try_debian /usr/bin system) || status=1
+    "${apt[@]}" purge "${debian[@]}" </dev/null >>"$work/apt.log" 2>&1 ||
+        fail "$(<"$work/apt.log")" "Cannot remove them"
+    ((status == 0)) || fail "Installed, they do not work"
+    while read -r path; do
+        [[ ! -e $path ]] || fail "Left behind: $path"
     done <"$work/installed"
-    say "Installed, tried (programs, find_package, pkg-config) and removed again: " \
-        "$(wc -l <"$work/installed") files and folders came and went"
+    say "Installed they work: programs, find_package, pkg-config"
+    say "Removed, with all $(wc -l <"$work/installed") files and folders"
 }
 
 windows_zip() {
@@ -147,7 +154,9 @@ make_packages() {
     rm -rf "$packages"
     mkdir -p "$work"
     source_archive "zarnex-foundation-$version"
-    debian_packages "zarnex-foundation-$version"
+    build_debian "zarnex-foundation-$version"
+    check_debian "$work/root"
+    install_debian
     windows_zip "zarnex-foundation-$version"
     rm -rf "$work"
     (cd "$packages" && sha256sum -- * >SHA256SUMS)
