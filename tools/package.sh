@@ -9,7 +9,7 @@ debian=(libzarnex-foundation1 libzarnex-foundation-dev zarnex-tools)
 host_sources=$PWD/tests/package
 
 package_files() {
-    if git rev-parse --is-inside-work-tree >/dev/null 2>&1; then
+    if [[ -e .git ]]; then
         git ls-files -z
     else
         find . -path ./build -prune -o ! -type d -printf '%P\0'
@@ -20,7 +20,7 @@ package_files() {
 source_archive() {
     say "" "=== source archive ==="
     package_files | LC_ALL=C sort -z |
-        tar --create --null --no-recursion --files-from=- --transform="s,^,$1/," \
+        tar --create --null --no-recursion --files-from=- --transform="flags=r;s,^,$1/," \
             --owner=0 --group=0 --numeric-owner --mode=u+rwX,go+rX,go-w \
             --mtime="@$SOURCE_DATE_EPOCH" |
         xz -T1 >"$packages/$1.tar.xz"
@@ -74,7 +74,7 @@ build_debian() {
 
 # check_debian ROOT: the packages unpacked into ROOT.
 check_debian() {
-    local package
+    local package internal
     field libzarnex-foundation-dev Depends "libzarnex-foundation1 (= $version)"
     field zarnex-tools Depends "libzarnex-foundation1 (>= "
     for package in "${debian[@]}"; do
@@ -85,6 +85,8 @@ check_debian() {
     fi
     LD_LIBRARY_PATH=$1/usr/lib/x86_64-linux-gnu \
         try_debian "$1/usr/bin" prefix -D PREFIX="$1/usr"
+    internal=$(find "$1" -path '*/zarnex/*internal*')
+    [[ -z $internal ]] || fail "Of no concern to hosts: $internal"
     say "Unpacked elsewhere they work: programs, find_package, pkg-config"
 }
 
