@@ -176,14 +176,7 @@ void changeArray(fuzz::Input& input, ArrayPair& a, ArrayPair& b) {
 }
 
 void tryArrays(fuzz::Input& input) {
-    ArrayPair pairs[2];
-    for (int steps = 0; !input.atEnd() && steps < 200; ++steps) {
-        ArrayPair& a = pairs[input.choice(2)];
-        ArrayPair& b = pairs[input.choice(2)];
-        changeArray(input, a, b);
-        a.check();
-        b.check();
-    }
+    trySteps<ArrayPair, 2>(input, [&](auto& a, auto& b) { changeArray(input, a, b); });
 }
 
 // ---- ZArray

@@ -118,16 +118,11 @@ void changeList(fuzz::Input& input, ListPair& a, ListPair& b) {
 }
 
 void tryLists(fuzz::Input& input) {
-    ListPair pairs[3];
-    for (int steps = 0; !input.atEnd() && steps < 200; ++steps) {
-        ListPair& a = pairs[input.choice(3)];
-        ListPair& b = pairs[input.choice(3)];
+    trySteps<ListPair, 3>(input, [&](ListPair& a, ListPair& b) {
         if (a.values.size() + b.values.size() > 200)
             a.list.empty(), a.values.clear();
         changeList(input, a, b);
-        a.check();
-        b.check();
-    }
+    });
 }
 
 // ---- ZSortList

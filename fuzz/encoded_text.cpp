@@ -151,19 +151,14 @@ void edit(fuzz::Input& input, Pair<Char>& a, Pair<Char>& b) {
 
 template <class Char>
 void tryStrings(fuzz::Input& input) {
-    Pair<Char> pairs[3];
-    for (int steps = 0; !input.atEnd() && steps < 200; ++steps) {
-        Pair<Char>& a = pairs[input.choice(3)];
-        Pair<Char>& b = pairs[input.choice(3)];
-        edit(input, a, b);
-        compare(a, b);
-        a.check();
-        b.check();
-        if (a.text.size() > longest) {
+    fuzz::trySteps<Pair<Char>, 3>(input, [&](Pair<Char>& a, Pair<Char>& b) {
+        if (a.text.size() + b.text.size() > longest) {
             a.string.resize(0);
             a.text.clear();
         }
-    }
+        edit(input, a, b);
+        compare(a, b);
+    });
 }
 
 } // namespace

@@ -16,5 +16,24 @@
         }                                                                                          \
     } while (false)
 
+namespace fuzz {
+
+/// Up to 200 changes while the input lasts, each to two out of `count` objects, which may be the
+/// same one. A Pair is an object of the library and what it should be; both are checked after
+/// each change.
+template <class Pair, int count, class Change>
+void trySteps(Input& input, Change change) {
+    Pair pairs[count];
+    for (int steps = 0; !input.atEnd() && steps < 200; ++steps) {
+        Pair& a = pairs[input.choice(count)];
+        Pair& b = pairs[input.choice(count)];
+        change(a, b);
+        a.check();
+        b.check();
+    }
+}
+
+} // namespace fuzz
+
 /// Tries the library with one input. Each target defines it.
 void tryInput(fuzz::Input input);

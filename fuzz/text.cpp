@@ -295,10 +295,7 @@ void edit(fuzz::Input& input, Pair& a, Pair& b) {
 } // namespace
 
 void tryInput(fuzz::Input input) {
-    Pair pairs[3];
-    for (int steps = 0; !input.atEnd() && steps < 200; ++steps) {
-        Pair& a = pairs[input.choice(3)];
-        Pair& b = pairs[input.choice(3)];
+    fuzz::trySteps<Pair, 3>(input, [&](Pair& a, Pair& b) {
         const bool isLong = a.text.size() + b.text.size() > longest;
         switch (isLong ? 1 : input.choice(8)) {
         case 0:
@@ -313,7 +310,5 @@ void tryInput(fuzz::Input input) {
         default:
             edit(input, a, b);
         }
-        a.check();
-        b.check();
-    }
+    });
 }

@@ -16,8 +16,7 @@ for preset in linux windows; do
     cmake --build --preset "$preset" -j "$jobs" --target zarnex-foundation "${programs[@]}" >&2
 done
 find zarnex examples -name '*.cpp' ! -ipath '*windows*' | sort >"$work/sources"
-scripts=(dev .ci/run)
-mapfile -t sourced < <(find trust bench tests tools -name '*.sh' | sort)
+source tools/lint.sh
 
 clang_tidy() { xargs -P "$jobs" -n 1 clang-tidy-14 --quiet -p build/linux <"$work/sources"; }
 
@@ -46,12 +45,6 @@ gcc_analyzer() {
         cmake --build "$work/analyzer" -j "$jobs" -- -k 0
 }
 
-# What is sourced has the variables of ./dev.
-shell_check() {
-    shellcheck --external-sources --severity=warning "${scripts[@]}" &&
-        shellcheck --shell=bash --severity=warning --exclude=SC2154 "${sourced[@]}"
-}
-
 faults=0
 row() { # NAME FILES FUNCTION
     local start=$SECONDS findings=0 log=$work/$3.log
@@ -67,7 +60,7 @@ say "| analysis | files | findings | seconds |" "|---|---|---|---|"
 row 'clang-tidy 14' "$(wc -l <"$work/sources")" clang_tidy
 row "$(cppcheck --version)" $(($(find zarnex examples -name '*.cpp' | wc -l) - ${#unread[@]})) cpp_check
 row '`g++ -fanalyzer`' "$(wc -l <"$work/sources")" gcc_analyzer
-row 'shellcheck' $((${#scripts[@]} + ${#sourced[@]})) shell_check
+row 'shellcheck' $(($(tracked '*.sh' | wc -l) + 2)) lint_shell
 ((faults == 0)) || fail "Analyses with findings: $faults"
 
 # --- what is installed ------------------------------------------------------------------

@@ -1,5 +1,3 @@
-#include "tests/slots.h"
-
 #include <zarnex/containers/QSort.h>
 
 #include <gtest/gtest.h>
@@ -62,7 +60,6 @@ TEST(QSort, SortsElementsOfEverySize) {
         expectSorted<24>(count);
         expectSorted<300>(count);
     }
-    EXPECT_EQ(slotOf(&QSort::Callback::compare), 0);
 }
 
 TEST(QSort, DoesNothingWhereThereIsNothingToSort) {
@@ -109,17 +106,6 @@ TEST(QSort, CallbacksMaySortThemselves) {
     Nested nested;
     QSort::sort(sorted.data(), 50, 4, nested);
     EXPECT_TRUE(std::is_sorted(sorted.begin(), sorted.end()));
-}
-
-TEST(QSort, ThreadsTakeTurns) {
-    const auto sortOften = [] {
-        for (int i = 0; i < 50; ++i)
-            expectSorted<4>(500);
-    };
-    std::thread one(sortOften);
-    std::thread two(sortOften);
-    one.join();
-    two.join();
 }
 
 } // namespace

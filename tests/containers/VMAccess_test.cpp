@@ -12,8 +12,6 @@
 
 namespace {
 
-static_assert(sizeof(VMAccess) == sizeof(void*));
-
 // A block store that aborts exits with 0: without this, one that does so outside
 // a death test would end the whole run as if it had passed.
 [[maybe_unused]] const int watch = std::atexit([] {
@@ -34,6 +32,9 @@ char letters[] = "abcdefgh";
 
 TEST(VMAccess, CopiesRangesInAndOut) {
     VMAccess store;
+    EXPECT_EQ(textIn(store, 2), "??") << "nothing without a block";
+    EXPECT_EQ(store.saveBlock(letters, 0, 4), 0);
+    EXPECT_EQ(store.unallocate(), 0);
     EXPECT_EQ(store.allocate(8), 0);
     EXPECT_EQ(store.saveBlock(letters, 0, 8), 0);
     store.saveBlock(letters, 5, 3);
@@ -47,7 +48,14 @@ TEST(VMAccess, CopiesRangesInAndOut) {
     store.getBlock(nullptr, 0, 2);
     EXPECT_EQ(store.reallocate(1000), 0);
     EXPECT_EQ(textIn(store, 8), "abcdeabc") << "kept while resizing";
-    EXPECT_EQ(store.unallocate(), 0);
+
+    VMAccess copy(store), assigned;
+    assigned = store;
+    store.saveBlock(letters, 0, 8);
+    EXPECT_EQ(textIn(copy, 8), letters) << "copies share the block";
+    EXPECT_EQ(textIn(assigned, 8), letters);
+    EXPECT_EQ(store.reallocate(0), 0); // frees, and the heap answers null
+    EXPECT_EQ(textIn(store, 2), "??");
 }
 
 TEST(VMAccess, OverlappingCopiesRunFromTheFirstByteUp) {
@@ -61,34 +69,6 @@ TEST(VMAccess, OverlappingCopiesRunFromTheFirstByteUp) {
     store.getBlock(store.block_ + 2, 0, 6);
     EXPECT_EQ(textIn(store, 8), "cdcdcdcd") << "the bytes in between repeat";
     store.unallocate();
-}
-
-TEST(VMAccess, WithoutABlockNothingIsCopied) {
-    VMAccess store;
-    char part[] = "....";
-    EXPECT_EQ(store.getBlock(part, 0, 4), 0);
-    EXPECT_EQ(store.saveBlock(part, 0, 4), 0);
-    EXPECT_STREQ(part, "....");
-    EXPECT_EQ(store.unallocate(), 0);
-}
-
-TEST(VMAccess, CopiesShareTheBlock) {
-    VMAccess store;
-    store.allocate(8);
-    VMAccess copy(store);
-    VMAccess assigned;
-    assigned = store;
-    store.saveBlock(letters, 0, 8);
-    EXPECT_EQ(textIn(copy, 8), letters);
-    EXPECT_EQ(textIn(assigned, 8), letters);
-    store.unallocate();
-}
-
-TEST(VMAccess, AResultOfNullLeavesNoBlockAndDoesNotAbort) {
-    VMAccess store;
-    store.allocate(8);
-    EXPECT_EQ(store.reallocate(0), 0); // frees, and the heap answers null
-    EXPECT_EQ(textIn(store, 2), "??");
 }
 
 TEST(VMAccessDeathTest, FatalFailuresSetTheFlagAndExitWithZero) {

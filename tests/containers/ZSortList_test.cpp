@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdint>
-#include <cstring>
 #include <limits>
 #include <new>
 #include <random>
@@ -23,20 +21,6 @@ Sorted sorted(const std::vector<int>& values, int ascending) {
     for (const int value : values)
         list.add(value);
     return list;
-}
-
-TEST(ZSortList, AddsOneFieldAfterThoseOfTheList) {
-    struct Fields {
-        const void* table;
-        const void* head;
-        std::uint32_t count;
-        int ascending;
-    } fields;
-    static_assert(sizeof(Fields) == sizeof(Sorted));
-    const Sorted list(7);
-    std::memcpy(&fields, static_cast<const void*>(&list), sizeof fields);
-    EXPECT_EQ(fields.ascending, 7);
-    static_assert(sizeof(ZList<int>::iterator) == 2 * sizeof(void*));
 }
 
 // Ordered by `key` alone; `serial` tells equal ones apart.
@@ -70,21 +54,16 @@ TEST(ZSortList, AddKeepsTheOrderAndPutsEqualElementsLast) {
 }
 
 TEST(ZSortList, FindGivesSomeEqualElement) {
-    for (const int ascending : {1, 0}) {
-        for (int size = 0; size < 12; ++size) {
-            std::vector<int> values;
-            for (int i = 0; i < size; ++i)
-                values.push_back(i / 3 * 2); // runs of three, odd numbers missing
-            const Sorted list = sorted(values, ascending);
-            for (int wanted = -1; wanted <= size + 1; ++wanted) {
-                SCOPED_TRACE(testing::Message() << wanted << " among " << size);
-                const bool there = std::count(values.begin(), values.end(), wanted) != 0;
-                const int index = list.find(wanted);
-                ASSERT_EQ(index != -1, there);
-                if (there) {
-                    EXPECT_EQ(list[index], wanted);
-                }
-            }
+    for (int size = 0; size < 24; ++size) {
+        std::vector<int> values;
+        for (int i = 0; i < size / 2; ++i)
+            values.push_back(i / 3 * 2); // runs of three, odd numbers missing
+        const Sorted list = sorted(values, size % 2);
+        for (int wanted = -1; wanted <= size / 2 + 1; ++wanted) {
+            SCOPED_TRACE(testing::Message() << wanted << " among " << size / 2);
+            const int index = list.find(wanted);
+            ASSERT_EQ(index != -1, std::count(values.begin(), values.end(), wanted) != 0);
+            EXPECT_TRUE(index == -1 || list[index] == wanted);
         }
     }
 }
@@ -92,10 +71,8 @@ TEST(ZSortList, FindGivesSomeEqualElement) {
 TEST(ZSortList, NotANumberIsNeverFound) {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     ZSortList<double> list;
-    for (const double value : {1.0, 2.0, 3.0})
+    for (const double value : {1.0, 2.0, 3.0, nan})
         list.add(value);
-    EXPECT_EQ(list.find(nan), -1);
-    list.add(nan);
     EXPECT_NE(list[2], list[2]) << "in front of the last";
     EXPECT_EQ(list.find(nan), -1);
 }
@@ -117,12 +94,9 @@ TEST(ZSortList, TakesAListUnsortedAndChangesDirectionOnlyWhileEmpty) {
 
 TEST(ZSortList, CopiesTakeTheDirectionAlong) {
     const Sorted descending = sorted({1, 2}, 0);
-    Sorted assigned;
+    Sorted assigned, moveAssigned, copied(descending), moved(Sorted{descending});
     assigned = descending;
-    Sorted moveAssigned;
     moveAssigned = Sorted(descending);
-    Sorted copied(descending);
-    Sorted moved(Sorted{descending});
     for (Sorted* list : {&assigned, &moveAssigned, &copied, &moved}) {
         list->add(3);
         EXPECT_EQ(contents(*list), (std::vector<int>{3, 2, 1}));

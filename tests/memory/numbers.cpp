@@ -15,94 +15,39 @@ SigUInt ones(int bits) {
     return (SigUInt(1) << bits) - SigUInt(1);
 }
 
-/// `work` on a number of 20000 bits gives `result`, and the operand is as it was.
-template <class Work>
-auto computed(const SigUInt& result, Work work) {
-    return [=](Trial& trial) {
-        const SigUInt operand = ones(20000);
-        SigUInt number;
-        trial.attempt([&] { number = work(operand); });
-        trial.expect(number == result && operand.bitLength() == 20000);
-    };
-}
-
-/// base^exponent mod modulus by squaring alone.
-SigUInt plainPower(const SigUInt& base, unsigned exponent, const SigUInt& modulus) {
-    SigUInt power = 1;
-    for (unsigned bit = 1u << 31; bit != 0; bit >>= 1) {
-        power = power * power % modulus;
-        if ((exponent & bit) != 0)
-            power = power * base % modulus;
-    }
-    return power;
-}
-
-void raised(Trial& trial, const SigUInt& modulus) {
-    const SigUInt base = ones(13000);
-    const SigUInt expected = plainPower(base, 1000003, modulus);
-    SigUInt power;
-    trial.attempt([&] { power = a_exp_b_mod_c(base, 1000003, modulus); });
-    trial.expect(power == expected);
-}
+const SigUInt large = ones(20000); // made before the heap fails
 
 } // namespace
 
 Group numberOperations() {
+    using N = SigUInt;
     return {
         "`SigUInt`, `a_exp_b_mod_c`",
         {
             {"SigUInt of bytes", endsAlloc,
-             [](Trial& t) {
-                 const std::vector<unsigned char> bytes(2500, 0xFF);
-                 std::optional<SigUInt> number;
-                 t.attempt([&] { number.emplace(bytes.data(), 2500); });
-                 t.expect(number && *number == ones(20000));
-             }},
+             edited(large, [bytes = std::vector<unsigned char>(2500, 0xFE)](
+                               N& n) { n = N(bytes.data(), 2500); })},
             {"SigUInt of words", endsAlloc,
-             [](Trial& t) {
-                 const std::vector<unsigned short> words(1250, 0xFFFF);
-                 std::optional<SigUInt> number;
-                 t.attempt([&] { number.emplace(words.data(), 1250); });
-                 t.expect(number && *number == ones(20000));
-             }},
-            {"SigUInt copied", endsAlloc,
-             computed(ones(20000), [](const SigUInt& n) { return SigUInt(n); })},
-            {"SigUInt + and ++", endsAlloc,
-             computed(SigUInt(1) << 20000, [](const SigUInt& n) { return n + SigUInt(1); })},
-            {"SigUInt -", endsAlloc,
-             computed(SigUInt(1) << 19999, [](const SigUInt& n) { return n - (n >> 1); })},
-            {"SigUInt *", endsAlloc,
-             computed((ones(20000) << 20000) - ones(20000),
-                      [](const SigUInt& n) { return n * n; })},
-            {"SigUInt *= itself", endsAlloc,
-             [](Trial& t) {
-                 SigUInt number = ones(9000);
-                 const SigUInt square = (ones(9000) << 9000) - ones(9000);
-                 t.attempt([&] { number *= number; });
-                 t.expect(number == square);
-             }},
+             edited(large, [words = std::vector<unsigned short>(1250, 0xFFFE)](
+                               N& n) { n = N(words.data(), 1250); })},
+            {"SigUInt copied", endsAlloc, edited(N(1), [](N& n) { n = N(large); })},
+            {"SigUInt + and ++", endsAlloc, edited(large, [](N& n) { n = n++ + N(1); })},
+            {"SigUInt -", endsAlloc, edited(large, [](N& n) { n = n - (n >> 1); })},
+            {"SigUInt *", endsAlloc, edited(large, [](N& n) { n = n * large; })},
+            {"SigUInt *= itself", endsAlloc, edited(large, [](N& n) { n *= n; })},
             {"SigUInt %", endsAlloc,
-             computed(ones(2000),
-                      [divisor = ones(9000)](const SigUInt& n) { return n % divisor; })},
-            {"SigUInt << and >>", endsAlloc,
-             computed(ones(20000), [](const SigUInt& n) { return (n << 5000) >> 5000; })},
+             edited(large, [divisor = ones(9000)](N& n) { n = n % divisor; })},
+            {"SigUInt << and >>", endsAlloc, edited(large, [](N& n) { n = (n << 5000) >> 4999; })},
             {"SigUInt getHex", endsAlloc,
-             [](Trial& t) {
-                 const SigUInt number = ones(20000);
-                 std::optional<ZString> digits;
-                 t.attempt([&] { digits.emplace(number.getHex()); });
-                 t.expect(digits && digits->length() == 5000);
-             }},
+             edited(ZString(), [](ZString& s) { s = large.getHex(); })},
             {"SigUInt of 256 bits", asksNothing,
-             [](Trial& t) {
-                 t.attempt([&] {
-                     SigUInt number = ones(255);
-                     number = number - SigUInt(2) + SigUInt(1);
-                     t.expect(number.bitLength() == 255);
-                 });
-             }},
-            {"a_exp_b_mod_c, odd", endsAlloc, [](Trial& t) { raised(t, ones(14000)); }},
-            {"a_exp_b_mod_c, even", endsAlloc, [](Trial& t) { raised(t, ones(14000) << 500); }},
+             edited(ones(255), [](N& n) { n = n - N(2) + N(1); })},
+            {"a_exp_b_mod_c, odd", endsAlloc,
+             edited(ones(13000),
+                    [modulus = ones(14000)](N& n) { n = a_exp_b_mod_c(n, 1000003, modulus); })},
+            {"a_exp_b_mod_c, even", endsAlloc,
+             edited(ones(13000), [modulus = ones(14000) << 500](
+                                     N& n) { n = a_exp_b_mod_c(n, 1000003, modulus); })},
         },
     };
 }
@@ -133,31 +78,19 @@ Group runtimeOperations() {
             {"ZGUIDWrapper setters", asksNothing,
              [](Trial& t) {
                  ZGUIDWrapper shape(0);
-                 t.attempt([&] {
-                     shape.setCircle();
-                     shape.setValid(0);
-                     shape.setValid(1);
-                 });
+                 t.attempt([&] { shape.setCircle(); });
                  t.expect(shape.isCircle() && shape.getString().length() == 36);
              }},
-            {"ZarnexException", throwsBad,
+            {"ZarnexException, copied and assigned", throwsBad,
              [](Trial& t) {
-                 std::optional<ZarnexException> error;
-                 t.attempt([&] {
-                     error.emplace("a message that is too long for a short one", 12, nullptr);
-                 });
-                 t.expectDone(error && error->errCode() == 12);
-             }},
-            {"ZarnexException copied", throwsBad,
-             [](Trial& t) {
-                 const ZarnexException error("a message that is too long for a short one", 12,
-                                             nullptr);
+                 const char* const message = "a message that is too long for a short one";
                  ZarnexException other;
                  t.attempt([&] {
+                     const ZarnexException error(message, 12, nullptr);
                      const ZarnexException copy(error);
                      other = copy;
                  });
-                 t.expectDone(std::strcmp(other.what(), error.what()) == 0);
+                 t.expectDone(std::strcmp(other.what(), message) == 0 && other.errCode() == 12);
                  t.expect(*other.what() != '\0');
              }},
             {"locks and reference counts, for the first time", asksNothing,

@@ -68,6 +68,27 @@ struct Operation {
     std::function<void(Trial& trial)> perform;
 };
 
+/// `edit` on an object like `begin` makes of it what it makes with memory, and so it does then.
+/// If it `mayGiveUp`, the object may be as it was or empty where a request failed.
+template <class Object, class Edit>
+auto edited(Object begin, Edit edit, bool mayGiveUp = false) {
+    return [=](Trial& trial) {
+        Object expected(begin), object(begin);
+        edit(expected);
+        trial.attempt([&] { edit(object); });
+        const bool gaveUp = trial.failed() && (object == begin || object == Object());
+        trial.expectDone(object == expected || (mayGiveUp && gaveUp));
+        object = begin;
+        edit(object);
+        trial.expect(object == expected);
+    };
+}
+
+template <class Object, class Edit>
+auto editedOrNot(Object begin, Edit edit) {
+    return edited(begin, edit, true);
+}
+
 /// Operations of one kind of class, a row of the report.
 struct Group {
     const char* title;

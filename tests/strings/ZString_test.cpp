@@ -2,9 +2,9 @@
 
 #include <zarnex/strings/ZString.h>
 
-#include <cctype>
 #include <climits>
 #include <cstring>
+#include <memory>
 #include <sstream>
 #include <utility>
 
@@ -45,53 +45,43 @@ TEST(ZString, ConstructorsFixTextAndSlotsInUse) {
     }
 }
 
-TEST(ZString, CopyingTakesTheArrayAssigningTheTextAndTheSlots) {
+TEST(ZString, CopyingTakesTheArrayAssigningTheTextWithinTheSlots) {
     ZString source(L"abc");
     source.resize(50);
-    const ZString copy(source);
-    EXPECT_EQ(copy.allocLength(), 51);
-    EXPECT_EQ(wide(copy), L"abc");
-    ZString assigned(L"something else");
+    ZString copy(source), assigned(L"something else");
     assigned = source;
-    EXPECT_EQ(assigned.allocLength(), 51);
-    EXPECT_EQ(wide(assigned), L"abc");
+    for (const ZString* const string : {&copy, &assigned}) {
+        EXPECT_EQ(string->allocLength(), 51);
+        EXPECT_EQ(wide(*string), L"abc");
+    }
     source = L"de";
     EXPECT_EQ(source.allocLength(), 3);
     EXPECT_EQ(wide(source), L"de");
     source = "narrow";
+    source = static_cast<const ZString&>(source);
     EXPECT_EQ(wide(source), L"narrow");
-    const ZString& same = source;
-    source = same;
-    EXPECT_EQ(wide(source), L"narrow");
-}
-
-TEST(ZString, AssignmentIsCutAtTheSlotsOfARawlyWrittenSource) {
-    ZString source(L"ab");
-    std::wcscpy(source, L"longer than before"); // no resize(): three slots in use
-    ZString target;
-    target = source;
-    EXPECT_EQ(wide(target), L"lo");
+    std::wcscpy(source, L"longer than before"); // no resize(): seven slots in use
+    assigned = source;
+    EXPECT_EQ(wide(assigned), L"longer");
 }
 
 TEST(ZString, WhatWasMovedFromStaysUsable) {
-    ZString first(L"abc");
-    ZString second(std::move(first));
-    EXPECT_EQ(wide(second), L"abc");
-    EXPECT_EQ(wide(first), L"");
-    EXPECT_EQ(first.length(), 0);
-    ZString use[5];
+    ZString use[6];
+    use[0] = L"abc";
+    EXPECT_EQ(wide(ZString(std::move(use[0]))), L"abc");
     for (ZString& target : use)
         const ZString emptied(std::move(target));
-    use[0] += L"x";
-    use[1] += L'x';
-    use[2].resize();
-    use[3][0] = L'x';
-    std::wcscpy(use[4], L"x");
-    EXPECT_EQ(wide(use[0]), L"x");
+    EXPECT_EQ(use[0].length(), 0);
+    use[1] += L"x";
+    use[2] += L'x';
+    use[3].resize();
+    use[4][0] = L'x';
+    std::wcscpy(use[5], L"x");
     EXPECT_EQ(wide(use[1]), L"x");
-    EXPECT_EQ(wide(use[2]), L"");
-    EXPECT_EQ(use[3][0], L'x');
-    EXPECT_EQ(wide(use[4]), L"x");
+    EXPECT_EQ(wide(use[2]), L"x");
+    EXPECT_EQ(wide(use[3]), L"");
+    EXPECT_EQ(use[4][0], L'x');
+    EXPECT_EQ(wide(use[5]), L"x");
 }
 
 TEST(ZString, ATemporaryIsAssignedAsAVariableIs) {
@@ -112,14 +102,6 @@ TEST(ZString, ATemporaryIsAssignedAsAVariableIs) {
                         static_cast<const wchar_t*>(byTemporary) == before);
         }
     }
-}
-
-TEST(ZString, ReplacingKeepsStorageThatHasRoom) {
-    ZString text(L"a-b-c");
-    const wchar_t* const before = text;
-    text.findAndReplace(L"-", L", ");
-    EXPECT_EQ(wide(text), L"a, b, c");
-    EXPECT_EQ(static_cast<const wchar_t*>(text), before);
 }
 
 TEST(ZString, RawWritesCountAtOnceAndResizeSynchronises) {
@@ -146,11 +128,9 @@ TEST(ZString, IndicesWrapFromTheEndAndWritingGrows) {
     EXPECT_EQ(reader[3L], L'\0');
     EXPECT_EQ(reader[1000u], L'\0');
     EXPECT_EQ(reader[std::size_t{1}], L'b');
-    const unsigned none = 0;
-    EXPECT_EQ(reader[none - 1], L'c') << "-1 as an int";
+    EXPECT_EQ(reader[UINT_MAX], L'c') << "-1 as an int";
     EXPECT_EQ(ZString()[-7], L'\0');
     string[-3] = L'A';
-    EXPECT_EQ(wide(string), L"Abc");
     EXPECT_EQ(string.allocLength(), 4);
     string[9] = L'x';
     EXPECT_EQ(string.allocLength(), 10);
@@ -178,9 +158,7 @@ TEST(ZString, AppendsTextCharactersAndNumbers) {
 
 TEST(ZString, PlusLeavesTheOperandsAndCountsCharactersAsNumbers) {
     const ZString string(L"x");
-    EXPECT_EQ(wide(string + L"y" + string + 42 + 7L), L"xyx427");
-    EXPECT_EQ(wide(string + L'A'), L"x65");
-    EXPECT_EQ(wide(L"label " + string), L"label x");
+    EXPECT_EQ(wide(L"label " + string + L"y" + string + 42 + 7L + L'A'), L"label xyx42765");
     EXPECT_EQ(wide(string), L"x");
 }
 
@@ -218,18 +196,11 @@ TEST(ZString, TextInsideTheStringItselfWorksAsSource) {
 
 TEST(ZString, OperatorsIgnoreCaseAndIsEqualDoesNot) {
     const ZString mixed(L"Abc");
-    EXPECT_TRUE(mixed == ZString(L"aBC"));
-    EXPECT_TRUE(mixed == L"ABC");
-    EXPECT_TRUE(L"ABC" == mixed);
-    EXPECT_FALSE(mixed != L"ABC");
-    EXPECT_TRUE(L"abcd" != mixed);
+    EXPECT_TRUE(mixed == L"aBC" && !(mixed != L"aBC") && L"abcd" != mixed);
     EXPECT_FALSE(mixed.isEqual(L"aBC"));
     EXPECT_TRUE(mixed.isEqual(ZString("Abc")));
     EXPECT_FALSE(mixed.isEqual(static_cast<const wchar_t*>(nullptr)));
-    EXPECT_TRUE(ZString(L"a") < ZString(L"B"));
-    EXPECT_TRUE(ZString(L"B") > ZString(L"a"));
     EXPECT_TRUE(ZString(L"ab") < ZString(L"ABC"));
-    EXPECT_EQ(ZString(L"\u00C9") != L"\u00E9", isDefaultLocale());
     EXPECT_TRUE(ZString(L"[") < ZString(L"A")) << "compared as the lower case 'a'";
 
     ZString string(L"b"); // not const: it converts to a pointer, which must not be compared
@@ -245,31 +216,27 @@ TEST(ZString, OperatorsIgnoreCaseAndIsEqualDoesNot) {
 }
 
 TEST(ZString, HashesTheLowerCasedText) {
-    EXPECT_EQ(ZString().hash(), 0);
-    EXPECT_EQ(ZString(L"a").hash(), 'a');
-    EXPECT_EQ(ZString(L"Abc").hash(), ZString(L"aBC").hash());
-    // By hand: seven letters overflow 28 bits once.
-    ZString lower(L"STITCHES");
-    lower.toLower(); // a Turkish i has no dot
-    unsigned hash = 0;
-    for (const wchar_t c : wide(lower)) {
-        hash = hash * 16 + static_cast<unsigned>(c);
-        hash = (hash ^ (hash >> 28 << 4)) % (1u << 28);
-    }
-    EXPECT_EQ(ZString(L"STITCHES").hash(), static_cast<int>(hash));
+    const auto byHand = [](const wchar_t* text) { // seven letters overflow 28 bits once
+        ZString lower(text);
+        lower.toLower(); // a Turkish i has no dot
+        unsigned hash = 0;
+        for (const wchar_t c : wide(lower)) {
+            hash = hash * 16 + static_cast<unsigned>(c);
+            hash = (hash ^ (hash >> 28 << 4)) % (1u << 28);
+        }
+        return static_cast<int>(hash);
+    };
+    for (const wchar_t* const text : {L"", L"a", L"aBC", L"STITCHES"})
+        EXPECT_EQ(ZString(text).hash(), byHand(text)) << shown(text);
 }
 
 TEST(ZString, ExportsToPlainBuffers) {
     const ZString string(L"abc");
-    char* const ascii = string.getAscii();
-    char* const ansi = string.getAnsi();
-    wchar_t* const units = string.getWide();
-    EXPECT_STREQ(ascii, "abc");
-    EXPECT_STREQ(ansi, "abc");
-    EXPECT_EQ(std::wstring(units), L"abc");
-    delete[] ascii;
-    delete[] ansi;
-    delete[] units;
+    const std::unique_ptr<char[]> ascii(string.getAscii()), ansi(string.getAnsi());
+    const std::unique_ptr<wchar_t[]> units(string.getWide());
+    EXPECT_STREQ(ascii.get(), "abc");
+    EXPECT_STREQ(ansi.get(), "abc");
+    EXPECT_STREQ(units.get(), L"abc");
     char bytes[8];
     EXPECT_EQ(string.copyString(bytes, 8), 4);
     EXPECT_EQ(string.copyString(bytes, 3), -1);
@@ -278,7 +245,7 @@ TEST(ZString, ExportsToPlainBuffers) {
     EXPECT_EQ(string.copyString(static_cast<char*>(nullptr), 8), 4);
     wchar_t wides[8];
     EXPECT_EQ(string.copyString(wides, 3), 4);
-    EXPECT_EQ(std::wstring(wides), L"ab");
+    EXPECT_STREQ(wides, L"ab");
     EXPECT_EQ(string.copyString(static_cast<wchar_t*>(nullptr), 3), 4);
 }
 
@@ -290,15 +257,6 @@ TEST(ZString, StreamsAsDecimalNumbers) {
     ZString text(L"AB");
     wideOut << text << std::hex << 10;
     EXPECT_EQ(wideOut.str(), L"ABa") << "wide streams get the text";
-}
-
-TEST(ZString, HoldsNothingButItsArray) {
-    EXPECT_EQ(sizeof(ZString), sizeof(ZXArray<wchar_t>));
-    ZXArray<ZString> strings;
-    strings[2] = L"c";
-    EXPECT_EQ(strings.length(), 3);
-    EXPECT_EQ(strings.find(ZString(L"C"), 0), 2);
-    EXPECT_EQ(wide(strings[0]), L"");
 }
 
 } // namespace

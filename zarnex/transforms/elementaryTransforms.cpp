@@ -41,7 +41,7 @@ Z2DRotate::~Z2DRotate() {}
 Z2DRotate& Z2DRotate::operator=(const Z2DRotate&) = default;
 
 Z2DRotate& Z2DRotate::operator=(const ZMatrix<double>& other) {
-    Z2DMatrix<double>::operator=(other);
+    Z2DTrans::operator=(other);
     return *this;
 }
 
@@ -56,7 +56,7 @@ Z2DXScale::~Z2DXScale() {}
 Z2DXScale& Z2DXScale::operator=(const Z2DXScale&) = default;
 
 Z2DXScale& Z2DXScale::operator=(const ZMatrix<double>& other) {
-    Z2DMatrix<double>::operator=(other);
+    Z2DTrans::operator=(other);
     return *this;
 }
 
@@ -71,7 +71,7 @@ Z2DYScale::~Z2DYScale() {}
 Z2DYScale& Z2DYScale::operator=(const Z2DYScale&) = default;
 
 Z2DYScale& Z2DYScale::operator=(const ZMatrix<double>& other) {
-    Z2DMatrix<double>::operator=(other);
+    Z2DTrans::operator=(other);
     return *this;
 }
 
@@ -86,7 +86,7 @@ Z2DXShear::~Z2DXShear() {}
 Z2DXShear& Z2DXShear::operator=(const Z2DXShear&) = default;
 
 Z2DXShear& Z2DXShear::operator=(const ZMatrix<double>& other) {
-    Z2DMatrix<double>::operator=(other);
+    Z2DTrans::operator=(other);
     return *this;
 }
 
@@ -101,6 +101,6 @@ Z2DYShear::~Z2DYShear() {}
 Z2DYShear& Z2DYShear::operator=(const Z2DYShear&) = default;
 
 Z2DYShear& Z2DYShear::operator=(const ZMatrix<double>& other) {
-    Z2DMatrix<double>::operator=(other);
+    Z2DTrans::operator=(other);
     return *this;
 }

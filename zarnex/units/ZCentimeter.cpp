@@ -9,6 +9,8 @@
 #include <zarnex/units/internal/reading.h>
 #include <zarnex/units/internal/textAs.h>
 
+#include <utility>
+
 using namespace zarnex;
 using namespace zarnex::detail;
 
@@ -154,5 +156,5 @@ int ZCentimeter::operator<(const ZCentimeter& other) const {
 }
 
 void ZCentimeter::setUnitString(ZString label) {
-    label_ = label;
+    label_ = std::move(label);
 }

@@ -5,6 +5,8 @@
 #include <zarnex/units/internal/labels.h>
 #include <zarnex/units/unitIds.h>
 
+#include <utility>
+
 using namespace zarnex;
 using namespace zarnex::detail;
 
@@ -55,5 +57,5 @@ int ZDegree::operator<(const ZDegree& other) const {
 }
 
 void ZDegree::setUnitString(ZString label) {
-    degreeLabel() = label;
+    degreeLabel() = std::move(label);
 }

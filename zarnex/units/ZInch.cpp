@@ -10,6 +10,8 @@
 #include <zarnex/units/internal/reading.h>
 #include <zarnex/units/internal/textAs.h>
 
+#include <utility>
+
 using namespace zarnex;
 using namespace zarnex::detail;
 
@@ -128,5 +130,5 @@ int ZInch::operator<(const ZInch& other) const {
 }
 
 void ZInch::setUnitString(ZString label) {
-    inchLabel() = label;
+    inchLabel() = std::move(label);
 }

@@ -13,6 +13,7 @@
 #include <zarnex/units/internal/textAs.h>
 
 #include <cmath>
+#include <utility>
 
 using namespace zarnex;
 using namespace zarnex::detail;
@@ -138,5 +139,5 @@ int ZMillimeter::operator<(const ZMillimeter& other) const {
 }
 
 void ZMillimeter::setUnitString(ZString label) {
-    millimeterLabel() = label;
+    millimeterLabel() = std::move(label);
 }

@@ -11,6 +11,8 @@
 #include <zarnex/units/internal/labels.h>
 #include <zarnex/units/internal/reading.h>
 
+#include <utility>
+
 using namespace zarnex;
 using namespace zarnex::detail;
 
@@ -128,5 +130,5 @@ int ZMillimeterPerSec::operator<(const ZMillimeterPerSec& other) const {
 }
 
 void ZMillimeterPerSec::setUnitString(ZString label) {
-    millimeterPerSecLabel() = label;
+    millimeterPerSecLabel() = std::move(label);
 }

@@ -15,6 +15,7 @@ bool isDroppedSpace(int c) {
 }
 
 std::uint8_t classOf(wchar_t c) {
+    // NOLINTNEXTLINE(bugprone-signed-char-misuse): it is none
     const auto code = static_cast<unsigned int>(c);
     return code < typedClasses.size() ? typedClasses[code]
                                       : tokenAutomaton.classOf[scannedByte(scannedCharacter(c))];

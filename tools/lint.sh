@@ -1,0 +1,84 @@
+# Sourced by ./dev: what is quick to say about the sources without running them. The thorough
+# analyses are the trial `analysis`.
+
+lint_packages=(clang-format-14 shellcheck python3)
+
+# All checks print what they find, one place a line, and fail if there is anything.
+
+tracked() { git ls-files -- "$@"; }
+
+lint_format() { tracked '*.cpp' '*.h' | xargs -P "$jobs" -n 16 clang-format-14 --dry-run --Werror; }
+
+# What is sourced has the variables of ./dev.
+lint_shell() {
+    shellcheck --external-sources --severity=warning dev .ci/run &&
+        tracked '*.sh' | xargs shellcheck --shell=bash --severity=warning --exclude=SC2154
+}
+
+lint_python() {
+    tracked '*.py' | xargs python3 -c '
+import sys
+for path in sys.argv[1:]:
+    with open(path, "rb") as file:
+        compile(file.read(), path, "exec")'
+}
+
+# Spaces at the ends of lines, tabs, line ends of Windows and files without a last line end, in
+# what people write; data for the programs and inputs of the fuzz targets may hold anything, and
+# make wants tabs.
+lint_text() {
+    local files file status=0
+    mapfile -t files < <(git grep -Il '' -- ':!fuzz/seeds' ':!fuzz/finds' ':!examples/data' \
+        ':!*.tsv' ':!*.svg' ':!debian/rules')
+    if grep -nP '[ \t\r]+$|\t' -- "${files[@]}"; then
+        status=1
+    fi
+    for file in "${files[@]}"; do
+        if [[ -n $(tail -c 1 -- "$file") ]]; then
+            say "$file: no line end at its end"
+            status=1
+        fi
+    done
+    return "$status"
+}
+
+# Links between the pages, and from them to files.
+lint_links() {
+    local page target status=0
+    while IFS=: read -r page target; do
+        target=${target#*](}
+        target=${target%%[#)]*}
+        if [[ -n $target && $target != *://* && ! -e $(dirname "$page")/$target ]]; then
+            say "$page: a link to $target, which is not there"
+            status=1
+        fi
+    done < <(tracked '*.md' | xargs grep -oHE '\]\([^) ]+\)')
+    return "$status"
+}
+
+# clang-tidy of the files named, as the build for Linux compiles them.
+lint_sources() {
+    [[ -e build/linux/build.ninja ]] || configure linux ON
+    printf '%s\n' "$@" | xargs -P "$jobs" -n 1 clang-tidy-14 --quiet -p build/linux
+}
+
+run_lint() {
+    local check failed=() log
+    need "${lint_packages[@]}" || fail "Cannot lint: $reason"
+    log=$(mktemp)
+    for check in format shell python text links; do
+        if "lint_$check" >"$log" 2>&1; then
+            say "$check: nothing found"
+        else
+            cat "$log"
+            say "$check: FOUND"
+            failed+=("$check")
+        fi
+    done
+    rm -f "$log"
+    if [[ $# != 0 ]]; then
+        need clang-tidy-14 || fail "Cannot lint: $reason"
+        lint_sources "$@" || failed+=(clang-tidy)
+    fi
+    [[ ${#failed[@]} == 0 ]] || fail "Lint: ${failed[*]}"
+}
