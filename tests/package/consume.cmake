@@ -10,10 +10,10 @@ cmake_minimum_required(VERSION 3.25)
 
 function(run)
     execute_process(COMMAND ${ARGN}
-        RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE output)
+        RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE errors)
     if(NOT status EQUAL 0)
         list(JOIN ARGN " " command)
-        message(FATAL_ERROR "${command}\nended with ${status}:\n${output}")
+        message(FATAL_ERROR "${command}\nended with ${status}:\n${output}${errors}")
     endif()
     set(output "${output}" PARENT_SCOPE)
 endfunction()
