@@ -3,8 +3,6 @@
 #include <zarnex/geometry/quadratic.h>
 #include <zarnex/geometry/tolerance.h>
 
-#include "hostileValues.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -147,34 +145,6 @@ TEST(Roots, ComeInTheirOrderWithinAbsoluteBounds) {
                 << found[i];
         }
     }
-}
-
-TEST(Roots, OnlyThoseCountedAreWrittenWhateverTheValues) {
-    constexpr double unset = -12345.0;
-    for (int i = 0; i < 50000; ++i) {
-        double k[6];
-        std::generate_n(k, 6, hostileValue);
-        SCOPED_TRACE(testing::PrintToString(k));
-        for (const auto solve : {fixed, chosen, cubic}) {
-            double found[4] = {unset, unset, unset, unset};
-            const int count = solve(k, found);
-            ASSERT_TRUE(count >= 0 && count <= (solve == cubic ? 3 : 2));
-            ASSERT_EQ(std::find(found, found + 4, unset) - found, count);
-        }
-        for (const auto solve : {computeCentre, LUcomputeCentre}) {
-            DPoint centre(unset, unset);
-            const int outcome = solve(&centre, {k[0], k[1]}, {k[2], k[3]}, {k[4], k[5]});
-            ASSERT_EQ(outcome, centre.x == unset ? -1 : 0);
-        }
-    }
-}
-
-TEST(Roots, NullPointersAreHarmless) {
-    EXPECT_EQ(quadraticSolve(nullptr, nullptr, 1, -3, 2), 2);
-    ZQuadraticSolver::quadraticSolve(nullptr, nullptr, nullptr, 1, -3, 2, 0, 0);
-    EXPECT_EQ(cubicRoots(1, -6, 11, -6, nullptr), 3);
-    EXPECT_EQ(computeCentre(nullptr, {0, 0}, {2, 0}, {0, 2}), 0);
-    EXPECT_EQ(LUcomputeCentre(nullptr, {0, 0}, {2, 0}, {0, 2}), 0);
 }
 
 } // namespace

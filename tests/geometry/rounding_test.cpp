@@ -21,6 +21,8 @@ TEST(Rounding, EveryDoubleHasADefinedInteger) {
         {2.5, 2, 3, 3, 2},
         {-2.5, -2, -3, -3, -2},
         {std::nextafter(0.5, 0.0), 0, 1, 0, 0}, // the sum with 0.5 is already 1
+        {1073741824.5, 1073741824, 1073741825, 1073741825, SHRT_MAX},
+        {std::nextafter(1073741824.5, 0.0), 1073741824, 1073741824, 1073741824, SHRT_MAX},
         {40000.7, 40000, 40001, 40001, SHRT_MAX},
         {-40000.7, -40000, -40001, -40001, SHRT_MIN},
         {2147483647.0, INT_MAX, INT_MAX, INT_MAX, SHRT_MAX},

@@ -17,26 +17,11 @@ TYPED_TEST_SUITE(Vectors, VectorTypes);
 TYPED_TEST(Vectors, Arithmetic) {
     using V = TypeParam;
     V v(3, -4);
-    EXPECT_TRUE(at(v + V(1, 2), 4, -2));
-    EXPECT_TRUE(at(v - V(1, 2), 2, -6));
-    EXPECT_TRUE(at(-v, -3, 4));
     EXPECT_TRUE(at(v * 3, 9, -12));
     EXPECT_EQ(v * V(2, 5), -14);
-    EXPECT_EQ(v.cross(V(2, 5)), 23.0);
-    EXPECT_EQ(v.length(), 5.0);
-    EXPECT_EQ(v.squaredLength(), 25.0);
-    EXPECT_TRUE(at(v += V(1, 1), 4, -3));
-    EXPECT_TRUE(at(v.reverse(), -4, 3));
-    EXPECT_TRUE(at(v.scale(0.5, 2), -2, 6));
-    EXPECT_TRUE(v == V(-2, 6));
-    EXPECT_TRUE(v != V(-2, 7));
-    EXPECT_TRUE(v != V(-1, 6));
-}
-
-TYPED_TEST(Vectors, OrderIsThatOfLengths) {
-    using V = TypeParam;
-    EXPECT_TRUE(V(1, 1) < V(-2, 0));
-    EXPECT_TRUE(V(-2, 0) > V(1, 1));
+    EXPECT_TRUE(at(v.reverse(), -3, 4));
+    EXPECT_TRUE(at(v.scale(2, 0.5), -6, 2));
+    EXPECT_TRUE(v == V(-6, 2) && v != V(-6, 1) && v != V(-5, 2));
     EXPECT_FALSE(V(3, 4) < V(0, 5) || V(3, 4) > V(0, 5) || V(3, 4) == V(0, 5));
 }
 
@@ -98,7 +83,6 @@ TEST(DVector, EqualityAndScalingFromTheLeft) {
     EXPECT_TRUE(DVector(0, 0) == DVector(-0.9e-11, 0.9e-11));
     EXPECT_TRUE(DVector(0, 0) != DVector(0, 1e-11));
     EXPECT_TRUE(at(0.5 * DVector(3, -1), 1.5, -0.5));
-    EXPECT_TRUE(at(2 * DVector(3, -1), 6, -2));
 }
 
 TEST(IVector, NormalizesByTruncation) {

@@ -43,17 +43,6 @@ Key keyOf(const Id& id) {
     return key;
 }
 
-TEST(ZGUIDWrapper, StandsAsGuidFlagAndText) {
-    const Id id(bead1);
-    const auto* const start = reinterpret_cast<const char*>(&id);
-    int valid = 0;
-    std::memcpy(&valid, start + 16, sizeof valid);
-    EXPECT_EQ(std::memcmp(start, &bead1, 16), 0);
-    EXPECT_EQ(valid, 1);
-    EXPECT_EQ(reinterpret_cast<const char*>(&id.getString()), start + 24);
-    EXPECT_EQ(sizeof id, 24 + sizeof(ZString));
-}
-
 TEST(ZGUIDWrapper, BuiltInShapesHaveFixedIdentifiers) {
     const struct {
         void (Id::*set)();
@@ -131,10 +120,9 @@ TEST(ZGUIDWrapper, SetStringKeepsTheFlag) {
     EXPECT_EQ(textOf(id), L"");
     id.setValid(7);
     EXPECT_EQ(id.isValid(), 7); // the flag as it was set
-    EXPECT_EQ(textOf(id), bead1Text);
     id.setString(nullptr);
     id.setString(&id.getString());
-    EXPECT_EQ(id.isBead1(), 1);
+    EXPECT_EQ(textOf(id), bead1Text);
 }
 
 TEST(ZGUIDWrapper, NaturalArgumentsCompile) {
@@ -165,10 +153,8 @@ TEST(ZGUIDWrapper, CopyingAnInvalidOneTakesTheFlagAlone) {
     target.setValid(1);
     EXPECT_EQ(target.isCircle(), 1);
     invalid = target;
-    for (const Id& taken : {invalid, Id(invalid)}) {
-        EXPECT_EQ(taken.isCircle(), 1);
-        EXPECT_EQ(textOf(taken), before);
-    }
+    for (const Id& taken : {invalid, Id(invalid)})
+        EXPECT_TRUE(taken.isCircle() && textOf(taken) == before);
 }
 
 TEST(ZGUIDWrapper, ComparesFieldByField) {

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 namespace {
 
 using General = ZMatrix<double>;
@@ -113,22 +111,6 @@ TEST(Z2DMatrix, AnotherShapeMakesItAGeneralMatrix) {
         EXPECT_EQ(elementsOf(m), Numbers(elementsOf(general).size(), 0.0));
         EXPECT_EQ(elementsOf(m = whole), Numbers({1, 2, 3, 4}));
     }
-}
-
-TEST(Z2DMatrix, OddNumbersDoNoHarm) {
-    for (const double x : oddNumbers)
-        for (const double y : oddNumbers) {
-            SCOPED_TRACE(testing::Message() << x << " " << y);
-            Matrix m = matrix({x, y, y, x});
-            const int status = std::fabs(x * x - y * y) <= 1e-9 ? 2 : 0;
-            Matrix out;
-            EXPECT_EQ(m.invert(out), status);
-            EXPECT_EQ(m.solve(out), status);
-            (m *= m) += m *= x;
-            EXPECT_EQ(m.transpose(m) + m.multiply(m, m) + m.transpose(out), 0);
-            m.clear();
-            EXPECT_EQ(elementsOf(m), Numbers(4, 0.0));
-        }
 }
 
 } // namespace

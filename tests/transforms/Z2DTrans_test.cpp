@@ -1,15 +1,11 @@
 #include "matrices.h"
 
 #include "tests/geometry/coordinates.h"
-#include "tests/slots.h"
 
 #include <zarnex/transforms/elementaryTransforms.h>
 
 #include <climits>
 #include <cmath>
-#include <functional>
-#include <random>
-#include <type_traits>
 
 namespace {
 
@@ -18,7 +14,6 @@ Z2DTrans trans(double m00, double m01, double m10, double m11) {
 }
 
 TEST(Z2DTrans, ConstructorsByName) {
-    static_assert(sizeof(Z2DRotate) == sizeof(ZMatrix<double>));
     const double c = std::cos(0.75), s = std::sin(0.75);
     const DVector none(1e-9, 0), v(3, 4), u(4, 3);
     const struct {
@@ -47,45 +42,22 @@ TEST(Z2DTrans, ConstructorsByName) {
         EXPECT_EQ(elementsOf(row.trans), row.elements) << &row - rows;
 }
 
-// Each row: a step, and the matrix that it stands for.
-TEST(Z2DTrans, StepsActAfterThoseBefore) {
+TEST(Z2DTrans, StepsActAfterThoseBeforeAndNotOnAnotherShape) {
     volatile double ninety = 90 * 0.017453292522222223; // not folded by the compiler
     const double c = std::cos(ninety), s = std::sin(ninety);
-    const DVector v(3, 4), u(4, 3);
-    const struct {
-        std::function<void(Z2DTrans&)> step;
-        Numbers matrix;
-    } rows[] = {
-        {[](Z2DTrans& t) { t.rotateInDegree(90); }, {c, -s, s, c}},
-        {[&](Z2DTrans& t) { t.rotate(double(ninety)); }, {c, -s, s, c}},
-        {[&](Z2DTrans& t) { t.rotate(v); }, {0.6, -0.8, 0.8, 0.6}},
-        {[&](Z2DTrans& t) { t.rotate(DVector(0, 1e-9)); }, {1, 0, 0, 1}},
-        {[&](Z2DTrans& t) { t.rotate(v, u); }, {24.0 / 25, -7.0 / 25, 7.0 / 25, 24.0 / 25}},
-        {[&](Z2DTrans& t) { t.rotate(v, DVector(0, 1e-10)); }, {1, 0, 0, 1}},
-        {[](Z2DTrans& t) { t.scale(2, -3); }, {2, 0, 0, -3}},
-        {[](Z2DTrans& t) { t.xScale(5); }, {5, 0, 0, 1}},
-        {[](Z2DTrans& t) { t.yScale(5); }, {1, 0, 0, 5}},
-        {[](Z2DTrans& t) { t.mirror(); }, {-1, 0, 0, 1}},
-        {[](Z2DTrans& t) { t.flip(); }, {1, 0, 0, -1}},
-        {[](Z2DTrans& t) { t.xShear(3); }, {1, 3, 0, 1}},
-        {[](Z2DTrans& t) { t.yShear(3); }, {1, 0, 3, 1}},
-        {[](Z2DTrans& t) { t.compose(trans(5, 6, 7, 8)); }, {5, 6, 7, 8}},
-        {[](Z2DTrans& t) { t.compose(t); }, {1.5, -2, 0.25, 8}},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(&row - rows);
-        const Z2DTrans start = trans(1.5, -2, 0.25, 8);
-        Z2DTrans t(start);
-        row.step(t);
-        Z2DMatrix<double> expected;
-        EXPECT_EQ(::matrix(row.matrix).multiply(start, expected), 0);
-        EXPECT_EQ(elementsOf(t), elementsOf(expected));
-        const ZMatrix<double> wide(1, 3, nullptr);
-        t = wide; // and of another shape nothing happens
-        row.step(t);
-        EXPECT_EQ(t.rangeCheck(1, 3), 1);
-        EXPECT_TRUE(at(t * IVector(7, 9), 7, 9));
-    }
+    Z2DTrans t = trans(1.5, -2, 0.25, 8);
+    EXPECT_EQ(elementsOf(t.compose(t)), Numbers({1.75, -19, 2.375, 63.5}));
+    EXPECT_EQ(elementsOf(t.scale(2, -3)), Numbers({3.5, -38, -7.125, -190.5}));
+    EXPECT_EQ(elementsOf(t.mirror().flip().xShear(3)), Numbers({17.875, 609.5, 7.125, 190.5}));
+    EXPECT_EQ(elementsOf(Z2DTrans().rotateInDegree(90)), Numbers({c, -s, s, c}));
+    EXPECT_EQ(elementsOf(Z2DTrans().rotate(DVector(3, 4), DVector(0, 1e-10))),
+              Numbers({1, 0, 0, 1}));
+    const ZMatrix<double> wide = matrix(1, 3, {1, 2, 3});
+    t = wide;
+    t.compose(t).scale(2, -3).mirror().flip().xShear(3).yShear(4).rotateInDegree(90).rotate(1);
+    t.rotate(DVector(3, 4)).rotate(DVector(3, 4), DVector(4, 3));
+    EXPECT_EQ(elementsOf(t), elementsOf(wide));
+    EXPECT_TRUE(at(t * IVector(7, 9), 7, 9));
 }
 
 TEST(Z2DTrans, MapsPointsAndVectorsAndRoundsIntegers) {
@@ -98,16 +70,6 @@ TEST(Z2DTrans, MapsPointsAndVectorsAndRoundsIntegers) {
     EXPECT_TRUE(maps(half, IPoint(3, -3), 2, -2) && maps(half, IVector(3, -3), 2, -2));
     EXPECT_TRUE(at(trans(1e9, 0, 0, -1e9) * IPoint(3, 3), INT_MAX, INT_MIN));
     EXPECT_TRUE(at(trans(INT_MAX + 0.5, 0, 0, INT_MIN - 0.5) * IPoint(1, 1), INT_MAX, INT_MIN));
-    std::mt19937 random(3);
-    for (int i = 0; i < 2000; ++i) {
-        const double any = static_cast<double>(random()) - 2147483648.0;
-        const double below = std::trunc(any / (1 << random() % 31)), tie = below + 0.5;
-        const auto rounded = [](double x) { return (trans(x, 0, 0, 0) * IPoint(1, 0)).x; };
-        const int above = zarnex::truncateToInt(below + 1.0);
-        ASSERT_EQ(rounded(tie), tie > 0.0 ? above : below);
-        ASSERT_EQ(rounded(std::nextafter(tie, -1e10)), below);
-        ASSERT_EQ(rounded(std::nextafter(tie, 1e10)), above);
-    }
 }
 
 TEST(Z2DTrans, AssignsAndCombinesWithEveryKindOfMatrix) {
@@ -124,20 +86,8 @@ TEST(Z2DTrans, AssignsAndCombinesWithEveryKindOfMatrix) {
     EXPECT_EQ(elementsOf(turn), Numbers({44.0 / 16, -20.0 / 16, -30.0 / 16, 14.0 / 16}));
     EXPECT_EQ(elementsOf(t), Numbers({44.0 / 16, -30.0 / 16, -20.0 / 16, 14.0 / 16}));
 
-    const auto assigns = [&general](auto m) {
-        using T = decltype(m);
-        using Entry = T& (T::*)(const ZMatrix<double>&);
-        EXPECT_EQ(slotOf(static_cast<Entry>(&T::operator=)), 11);
-        T& same = m = general;
-        EXPECT_TRUE(&same == &m && elementsOf(m) == Numbers({1, 2, 3, 4}));
-        EXPECT_EQ(elementsOf(m = {}), Numbers({1, 0, 0, 1}));
-    };
-    assigns(t);
-    assigns(turn);
-    assigns(Z2DXScale());
-    assigns(Z2DYScale());
-    assigns(Z2DXShear());
-    assigns(Z2DYShear());
+    EXPECT_EQ(elementsOf(t = general), Numbers({1, 2, 3, 4}));
+    EXPECT_EQ(elementsOf(t = {}), Numbers({1, 0, 0, 1}));
     EXPECT_EQ(elementsOf(turn = {DVector(1, 0), DVector(0, 2)}), Numbers({0, 1, -1, 0}));
 }
 
@@ -186,21 +136,7 @@ TEST(Z2DTrans, SplitsIntoScalesAndTheRest) {
     EXPECT_EQ(flat.split(flat, sx, sy, nx, ny), 1);
 }
 
-TEST(Z2DTrans, OddNumbersDoNoHarm) {
-    for (const double x : oddNumbers)
-        for (const double y : oddNumbers) {
-            const DVector v(x, y);
-            Z2DTrans t = trans(x, y, y, x);
-            Z2DTrans rest;
-            double sx = 0, sy = 0;
-            int nx = 1, ny = 1;
-            t.split(rest, sx, sy, nx, ny);
-            t.compose(Z2DRotate(x)).compose(Z2DRotate(v)).compose(Z2DRotate(v, DVector(y, x)));
-            t.rotate(x).rotateInDegree(y).rotate(v).rotate(v, v).scale(x, y).xShear(x).yShear(y);
-            const IPoint p = t * IPoint(INT_MIN, INT_MAX);
-            const double image = (t * DPoint(INT_MIN, INT_MAX)).x;
-            EXPECT_EQ(p.x, zarnex::truncateToInt(std::round(image))) << x << " " << y;
-        }
+TEST(Z2DTrans, AnInfiniteVectorTurnsDependingOnTheWay) {
     const DVector endless(0, std::numeric_limits<double>::infinity());
     EXPECT_EQ(Z2DRotate(endless)(0, 0), 0.0); // each component over the length
     EXPECT_TRUE(std::isnan(Z2DTrans().rotate(endless)(0, 0)));

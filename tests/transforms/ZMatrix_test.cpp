@@ -1,11 +1,8 @@
 #include "matrices.h"
 
-#include "tests/slots.h"
-
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstring>
 #include <new>
 #include <random>
 
@@ -22,34 +19,6 @@ void* operator new[](std::size_t bytes, const std::nothrow_t&) noexcept {
 namespace {
 
 using Matrix = ZMatrix<double>;
-
-TEST(ZMatrix, FieldsAndSlotsStandInTheirOrder) {
-    struct {
-        void* table;
-        int cols, rows;
-        double* data;
-    } fields;
-    static_assert(sizeof fields == sizeof(Matrix) && sizeof fields == sizeof(Z2DMatrix<double>));
-    const Matrix m(2, 3, nullptr);
-    std::memcpy(&fields, static_cast<const void*>(&m), sizeof fields);
-    EXPECT_EQ(fields.cols, 3);
-    EXPECT_EQ(fields.rows, 2);
-    EXPECT_EQ(fields.data, &m(0, 0));
-    EXPECT_EQ(fields.data + 5, &m(1, 2));
-    EXPECT_EQ(slotOf(&Matrix::transpose), 2);
-    EXPECT_EQ(slotOf(&Matrix::det), 3);
-    EXPECT_EQ(slotOf(&Matrix::identity), 4);
-    EXPECT_EQ(slotOf(&Matrix::clear), 5);
-    EXPECT_EQ(slotOf(&Matrix::invert), 6);
-    EXPECT_EQ(slotOf(&Matrix::solve), 7);
-    EXPECT_EQ(slotOf(&Matrix::guassianReduction), 8);
-    EXPECT_EQ(slotOf(&Matrix::multiply), 9);
-    EXPECT_EQ(slotOf(&Matrix::rangeCheck), 10);
-    EXPECT_EQ(slotOf(&Matrix::operator=), 11);
-    EXPECT_EQ(slotOf(&Matrix::operator*=), 12);
-    EXPECT_EQ(slotOf(&Matrix::operator+=), 13);
-    EXPECT_EQ(slotOf(&Matrix::operator-=), 14);
-}
 
 TEST(ZMatrix, ImpossibleSizesGiveAnEmptyMatrix) {
     for (const auto& [rows, cols] : {std::pair(-1, 2), {-2, -3}, {65536, 65536}, {0, -1}}) {

@@ -3,7 +3,6 @@
 #include <zarnex/transforms/Z2DMatrix.h>
 
 #include <initializer_list>
-#include <limits>
 #include <vector>
 
 using Numbers = std::vector<double>;
@@ -25,15 +24,3 @@ inline ZMatrix<double> matrix(int rows, int cols, const Numbers& elements) {
 inline Z2DMatrix<double> matrix(const Numbers& elements) {
     return matrix(2, 2, elements);
 }
-
-/// Numbers that arithmetic trips over.
-inline constexpr double oddNumbers[] = {0.0,
-                                        -0.0,
-                                        0.49999999999999994,
-                                        -2147483648.5,
-                                        1e-9,
-                                        5e-324,
-                                        -1e308,
-                                        std::numeric_limits<double>::infinity(),
-                                        -std::numeric_limits<double>::infinity(),
-                                        std::numeric_limits<double>::quiet_NaN()};

@@ -1,3 +1,4 @@
+#include "fuzz/tokenModel.h"
 #include "tests/support.h"
 
 #include <zarnex/runtime/exiting.h>
@@ -5,12 +6,9 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <atomic>
 #include <chrono>
-#include <clocale>
 #include <cstdlib>
-#include <iterator>
 #include <optional>
 #include <random>
 #include <sstream>
@@ -21,210 +19,91 @@
 
 namespace {
 
-// The tokens before the end: numbers as "=12.5", units as they are.
-std::string tokensOf(ZUnitScanner& scanner) {
+// Derived, so that it reads character by character.
+class FedScanner : public ZUnitScanner {
+public:
+    using ZUnitScanner::ZUnitScanner;
+};
+
+// All that a scanner tells: each token and the end with its place, "!" where a word was
+// dropped before it, and the number. Behind `taken` tokens the host takes a character.
+template <class Scanner = ZUnitScanner>
+std::string told(const wchar_t* text, int taken = -1) {
+    ZUnitScanner(L"0").yylex(); // a lone sign has this number
+    Scanner scanner(text);
     std::ostringstream out;
-    while (const int token = scanner.yylex()) {
-        if (out.tellp() > 0)
-            out << ' ';
-        if (token == 1)
-            out << '=' << scanner.value;
-        else
-            out << token;
+    out.precision(17);
+    for (int token = -1, count = 0; token != 0; ++count) {
+        if (count == taken)
+            out << '<' << scanner.yygetc() << "> ";
+        token = scanner.yylex();
+        out << token << '@' << scanner.tokenBegin() << '-' << scanner.tokenEnd()
+            << (scanner.wordDropped() ? "!=" : "=") << scanner.value << ' ';
+    }
+    EXPECT_EQ(scanner.yylex(), 0) << "the end must last";
+    return out.str();
+}
+
+// The same by the model.
+std::string expected(const std::wstring& text) {
+    fuzz::TokenModel model(text);
+    std::ostringstream out;
+    out.precision(17);
+    for (int token = -1; token != 0;) {
+        token = model.next();
+        out << token << '@' << model.begin << '-' << model.end << (model.wordDropped ? "!=" : "=")
+            << model.value << ' ';
     }
     return out.str();
 }
 
-TEST(ZUnitScanner, TakesTheLongestTokenAndDropsTheRestUnderEveryLocale) {
-    const wchar_t allOnes[] = {static_cast<wchar_t>(-1), L'2', L'\0'};
-    const struct {
-        const wchar_t* text;
-        const char* tokens;
-    } rows[] = {
-        {L"", ""},
-        {nullptr, ""},
-        {L"abc", ""},
-        {L"12.5 mm", "=12.5 2"},
-        {L"12.5MM", "=12.5 2"},
-        {L"3 in", "=3 4"},
-        {L"3\"", "=3 4"},
-        {L"3 INCHES", "=3 4"},
-        {L"3 int", "=3 4"},
-        {L"40 per sq cm", "=40 7"},
-        {L"40 / sq ", "=40 7"},
-        {L"40 / sq", "=40"},
-        {L"40 per", "=40 5"},
-        {L"40 per  sq cm", "=40 5 3"},
-        {L"40 / square centimet", "=40 7"},
-        {L"6 stitches per inch", "=6 6"},
-        {L"6 stitches per in", "=6 6 5 4"},
-        {L"10.00 mm/s", "=10 2"},
-        {L"5 cm/s", "=5 3"},
-        {L"12.", "=12"},
-        {L".5", "=0.5"},
-        {L".", ""},
-        {L"-3", "=-3"},
-        {L"4 - 5", "=4 =4 =5"},
-        {L"2,5", "=2 =5"},
-        {L"0x10", "=0 =10"},
-        {L"\u0132 mm", "=2 2"},       // low bits of "2"
-        {L"5 \u016D\u016Dx", "=5 2"}, // low bits of "m"
-        {L"1\u01002", "=1 =2"},       // low bits 0
-        {L"1\u00FF2", "=1 =2"},       // low bits of the end mark
-        {allOnes, "=2"},
-        {L"1\r\n2\u00B0", "=1 =2"},
-    };
-    const KeptLocale kept;
-    for (const char* locale : {"C", "", "de_DE.UTF-8", "tr_TR.UTF-8", "German", "Turkish"}) {
-        if (std::setlocale(LC_ALL, locale) == nullptr)
-            continue; // not on this machine; "C" always is
-        for (const auto& row : rows) {
-            SCOPED_TRACE(testing::Message() << locale << ": " << (row.text ? row.text : L"null"));
-            ZUnitScanner scanner(row.text);
-            EXPECT_EQ(tokensOf(scanner), row.tokens);
-            EXPECT_EQ(scanner.yylex(), 0) << "the end must last";
-        }
-    }
-}
-
-TEST(ZUnitScanner, TellsWhereTokensStandAndWhetherAWordWasDropped) {
-    const struct {
-        const wchar_t* text;
-        const char* found; // begin-end for each token and the end, "!" for a dropped word
-    } rows[] = {
-        {L"", "0-0"},
-        {L" 2.5 mm", "1-4 5-7 7-7"},
-        {L"3 int", "0-1 2-4 5-5"},
-        {L"5 cm/s", "0-1 2-4 6-6"},
-        {L"3 int t", "0-1 2-4 7-7!"},
-        {L"5 mm extra", "0-1 2-4 10-10!"},
-        {L"5 or 6 mm", "0-1 5-6! 7-9 9-9"},
-        {L"40 / sq ", "0-2 3-8 8-8"},
-        {L"40 / sq extra", "0-2 3-8 13-13!"},
-        {L"abc", "3-3"}, // begins the text: behind nothing
-        {L" abc", "4-4!"},
-        {L"5\r", "0-1 2-2"},
-        {L"5 \v\f", "0-1 4-4"},
-        {L"5\rx", "0-1 3-3!"},
-        {L"5\fx", "0-1 3-3!"},
-        {L"5\vx", "0-1 3-3!"},
-        {L"5 \u010D", "0-1 3-3!"}, // no carriage return, though it has its low bits
-        {L"5\u010Dx", "0-1 3-3"},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.text);
-        ZUnitScanner scanner(row.text);
-        EXPECT_EQ(scanner.tokenEnd(), 0);
-        std::ostringstream found;
-        int token = 0;
-        do {
-            token = scanner.yylex();
-            found << (found.tellp() > 0 ? " " : "") << scanner.tokenBegin() << '-'
-                  << scanner.tokenEnd() << (scanner.wordDropped() ? "!" : "");
-        } while (token != 0);
-        EXPECT_EQ(found.str(), row.found);
-    }
-}
-
-// What the scanner must find, by trying every word at every place.
-class Oracle {
-public:
-    Oracle() {
-        for (const char* per : {"/", "per"})
-            for (const char* square : {"sq", "square"})
-                for (const char* unit : {"", "cm", "centi", "centimeter", "centimeters"})
-                    words_.push_back({std::string(per) + " " + square + " " + unit, 7});
-        const char* const lists[] = {"mm,milli,millimeter,millimeters",
-                                     "cm,centi,centimeter,centimeters", "\",in,inch,inches",
-                                     "p,pt,point,points", "spi,stitch,stitches,stitches per inch"};
-        int token = 2;
-        for (const char* list : lists) {
-            std::istringstream in(list);
-            for (std::string word; std::getline(in, word, ',');)
-                words_.push_back({word, token});
-            ++token;
-        }
-    }
-
-    std::string scan(const std::string& text) {
-        std::ostringstream out;
-        bool dropped = false;
-        for (std::size_t at = 0; at < text.size();) {
-            const auto [length, token] = longest(text, at);
-            if (length == 0) {
-                dropped |= at > 0 && isSpace(text[at - 1]) && !isSpace(text[at]);
-                ++at;
-                continue;
-            }
-            const std::string word = text.substr(at, length);
-            if (token == 1 && word.find_first_of("0123456789") != std::string::npos)
-                number_ = inDefaultLocale([&word] { return std::strtod(word.c_str(), nullptr); });
-            if (token != 0) {
-                out << token << '@' << at << '-' << at + length << (dropped ? "!" : "") << '='
-                    << number_ << ' ';
-                dropped = false;
-            }
-            at += length;
-        }
-        out << (dropped ? "!" : "") << '=' << number_;
-        return out.str();
-    }
-
-private:
-    struct Word {
-        std::string text;
-        int token;
-    };
-
-    static bool isSpace(char c) {
-        return std::string(" \t\n\r\v\f").find(c) != std::string::npos;
-    }
-
-    static std::size_t endOf(const char* chars, const std::string& text, std::size_t at) {
-        return (std::min)(text.find_first_not_of(chars, at), text.size());
-    }
-
-    std::pair<std::size_t, int> longest(const std::string& text, std::size_t at) const {
-        const std::size_t sign = text[at] == '+' || text[at] == '-' ? 1 : 0;
-        std::size_t end = endOf("0123456789", text, at + sign);
-        if (end < text.size() && text[end] == '.' && endOf("0123456789", text, end + 1) > end + 1)
-            end = endOf("0123456789", text, end + 1);
-        std::pair<std::size_t, int> best{end - at, 1};
-        if (const std::size_t blanks = endOf(" \t\n", text, at) - at; blanks > best.first)
-            best = {blanks, 0};
-        for (const Word& word : words_)
-            if (word.text.size() > best.first && text.compare(at, word.text.size(), word.text) == 0)
-                best = {word.text.size(), word.token};
-        return best;
-    }
-
-    std::vector<Word> words_;
-    double number_ = 0.0;
-};
-
-TEST(ZUnitScanner, AgreesWithTryingEveryWordOnRandomTexts) {
-    std::vector<std::string> pieces = {" ", " ", " ", "  ", "\t", "\n", "\r"};
-    std::istringstream words("/ per sq square cm centi meter s milli m in ch es stitch spi p t "
-                             "oint \" + - . 0 1 27 x e r");
-    for (std::string word; words >> word;)
+TEST(ZUnitScanner, AgreesWithThePlainModelInPlaceAndByCharacters) {
+    std::vector<std::wstring> pieces = {L" ",
+                                        L" ",
+                                        L"  ",
+                                        L"\t",
+                                        L"\n",
+                                        L"\r",
+                                        L"\v",
+                                        L"\f",
+                                        L"per sq",
+                                        L" cm",
+                                        L"es per",
+                                        L"mm",
+                                        L"In",
+                                        L"INCHES",
+                                        L"\u0132",
+                                        L"\u016D",
+                                        L"\u010D",
+                                        L"\u010A",
+                                        L"\u0120",
+                                        L"\u0100",
+                                        L"\u00FF",
+                                        L"\u00C9",
+                                        std::wstring(1, static_cast<wchar_t>(-1))};
+    std::wistringstream words(L"/ per sq square cm centi meter s milli m in ch es stitch spi p t "
+                              L"oint \" + - . 0 1 27 .5 x e r");
+    for (std::wstring word; words >> word;)
         pieces.push_back(word);
-    std::mt19937 random(20240607);
-    Oracle oracle;
-    ZUnitScanner(L"0").yylex(); // both begin with the number 0
-    for (int round = 0; round < 20000; ++round) {
-        std::string text;
-        for (std::size_t n = random() % 12; n > 0; --n)
-            text += pieces[random() % pieces.size()];
-        const std::wstring wide(text.begin(), text.end());
-
-        ZUnitScanner scanner(wide.c_str());
-        std::ostringstream out;
-        while (const int token = scanner.yylex())
-            out << token << '@' << scanner.tokenBegin() << '-' << scanner.tokenEnd()
-                << (scanner.wordDropped() ? "!" : "") << '=' << scanner.value << ' ';
-        out << (scanner.wordDropped() ? "!" : "") << '=' << scanner.value;
-        ASSERT_EQ(out.str(), oracle.scan(text)) << "text: " << text;
+    std::mt19937_64 random(20240607);
+    for (int round = 0; round < 30000; ++round) {
+        std::wstring text;
+        for (auto n = random() % 12; n > 0 && text.size() < 70; --n) {
+            if (random() % 8 != 0) {
+                text += pieces[random() % pieces.size()];
+            } else {
+                std::wstring number = std::to_wstring(random() >> random() % 64);
+                text += number.insert(random() % number.size(), L".");
+            }
+        }
+        SCOPED_TRACE(shown(text.c_str()));
+        const std::string right = inDefaultLocale([&text] { return expected(text); });
+        ASSERT_EQ(told(text.c_str()), right);
+        ASSERT_EQ(told<FedScanner>(text.c_str()), right);
+        const int taken = round % 6;
+        ASSERT_EQ(told(text.c_str(), taken), told<FedScanner>(text.c_str(), taken)) << taken;
     }
+    EXPECT_EQ(told(nullptr), told(L""));
 }
 
 TEST(ZUnitScanner, LoneSignKeepsTheNumberOfAnEarlierScanner) {
@@ -260,8 +139,7 @@ TEST(ZUnitScannerDeathTest, ATokenOfAHundredCharactersEndsTheProcess) {
         SCOPED_TRACE(row.text);
         const auto run = [&row] {
             std::atexit([] { std::_Exit(isExiting() + 10); });
-            ZUnitScanner scanner(row.text.c_str());
-            tokensOf(scanner);
+            told(row.text.c_str());
         };
         EXPECT_EXIT(run(), testing::ExitedWithCode(11),
                     "^" + std::to_string(row.line) + ": Token buffer overflow\r?\n$");
@@ -283,11 +161,11 @@ TEST(ZUnitScanner, HoldsTheLockForItsLifeButNotAgainstItsOwnThread) {
     });
     {
         ZUnitScanner second(L"3 cm");
-        EXPECT_EQ(tokensOf(second), "=3 3");
+        EXPECT_TRUE(second.yylex() == 1 && second.yylex() == 3 && second.yylex() == 0);
     }
     std::this_thread::sleep_for(std::chrono::milliseconds(30));
     EXPECT_FALSE(passed);
-    EXPECT_EQ(tokensOf(*first), "=1 2");
+    EXPECT_TRUE(first->yylex() == 1 && first->yylex() == 2);
     first.reset();
     other.join();
     EXPECT_TRUE(passed);
@@ -309,60 +187,7 @@ public:
 };
 
 TEST(ZUnitScanner, DerivedScannersChangeTheCharacters) {
-    CommaScanner scanner(L"12,5 mm");
-    EXPECT_EQ(tokensOf(scanner), "=12.5 2");
-}
-
-// Derived, so that it reads character by character.
-class FedScanner : public ZUnitScanner {
-public:
-    using ZUnitScanner::ZUnitScanner;
-};
-
-// All that a scanner tells, where the host takes a character behind `taken` tokens.
-template <class Scanner>
-std::string told(const std::wstring& text, int taken) {
-    ZUnitScanner(L"0").yylex(); // a lone sign has this number
-    Scanner scanner(text.c_str());
-    std::ostringstream out;
-    for (int token = -1, count = 0; token != 0; ++count) {
-        if (count == taken)
-            out << "<" << scanner.yygetc() << "> ";
-        token = scanner.yylex();
-        out << token << '@' << scanner.tokenBegin() << '-' << scanner.tokenEnd()
-            << (scanner.wordDropped() ? "!" : "") << '=' << scanner.value << ' ';
-    }
-    return out.str();
-}
-
-TEST(ZUnitScanner, ReadsItsTextInPlaceAsItReadsByCharacters) {
-    const wchar_t* const pieces[] = {
-        L" ",      L" ",      L"\t",     L"\n",     L"\r",     L"7",      L"12",     L".5",
-        L"-",      L"mm",     L"per sq", L" cm",    L"stitch", L"es per", L"In",     L"x",
-        L"\u0132", L"\u016D", L"\u010D", L"\u010A", L"\u0120", L"\u0100", L"\u00FF", L"\u00C9"};
-    std::mt19937 random(20260208);
-    for (int round = 0; round < 20000; ++round) {
-        std::wstring text;
-        for (std::size_t n = random() % 12; n > 0; --n)
-            text += pieces[random() % std::size(pieces)];
-        const int taken = static_cast<int>(random() % 6);
-        ASSERT_EQ(told<ZUnitScanner>(text, taken), told<FedScanner>(text, taken))
-            << "text: " << text << ", " << taken;
-    }
-}
-
-TEST(ZUnitScanner, ReadsShortAndLongNumbersToTheNearestDouble) {
-    std::mt19937_64 random(20260209);
-    for (int round = 0; round < 20000; ++round) {
-        std::string number = std::to_string(random() >> random() % 64);
-        number.insert(random() % number.size(), ".");
-        const std::wstring text(number.begin(), number.end());
-        ZUnitScanner scanner(text.c_str());
-        ASSERT_EQ(scanner.yylex(), 1);
-        const double nearest =
-            inDefaultLocale([&number] { return std::strtod(number.c_str(), nullptr); });
-        ASSERT_EQ(scanner.value, nearest) << number;
-    }
+    EXPECT_EQ(told<CommaScanner>(L"12,5 mm"), told(L"12.5 mm"));
 }
 
 } // namespace

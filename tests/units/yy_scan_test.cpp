@@ -1,13 +1,9 @@
-#include "tests/slots.h"
-
-#include <zarnex/units/ZUnitScanner.h>
 #include <zarnex/units/internal/automaton.h>
 #include <zarnex/units/yy_scan.h>
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
@@ -162,38 +158,6 @@ TEST(YyScan, NumbersBeyondTheRangeOfDoubleAreInfiniteOrZero) {
         EXPECT_EQ(yy_scan::yynumber(), row.number);
         EXPECT_EQ(std::signbit(yy_scan::yynumber()), std::signbit(row.number));
     }
-}
-
-// Where the members stand, in the order that derived engines rely on.
-class Layout : public yy_scan {
-public:
-    Layout() {
-        const void* const members[] = {&yystates, &yysize,     &yyowned,  &yyheld,
-                                       &yystart,  &yyprevious, &yysaved,  &yyin,
-                                       &yyout,    &yytext,     &yylineno, &yyleng};
-        const void* before = this;
-        for (const void* member : members) {
-            EXPECT_LT(before, member);
-            before = member;
-        }
-    }
-};
-
-TEST(ScannerLayout, MembersAndSlotsKeepTheirOrder) {
-    const Layout layout;
-    EXPECT_EQ(slotOf(&yy_scan::yygetc), 0);
-    EXPECT_EQ(slotOf(&yy_scan::yywrap), 1);
-    EXPECT_EQ(slotOf(&yy_scan::yyputc), 2);
-    EXPECT_EQ(slotOf(&yy_scan::yyerror), 3);
-    EXPECT_EQ(slotOf(&yy_scan::yyecho), 4);
-
-    static_assert(sizeof(ZUnitScanner) == 4 * sizeof(void*));
-    const ZUnitScanner scanner(L"");
-    EXPECT_EQ(reinterpret_cast<const char*>(&scanner.value) -
-                  reinterpret_cast<const char*>(&scanner),
-              24);
-    EXPECT_EQ(slotOf(&ZUnitScanner::yygetc), 2); // a destructor takes two
-    EXPECT_EQ(slotOf(&ZUnitScanner::yylex), 3);
 }
 
 TEST(Automaton, TheEarlierRuleWinsATie) {

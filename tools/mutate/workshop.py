@@ -33,8 +33,8 @@ REACH = {"platform": ["strings", "runtime", "geometry", "units", "ids"],
          "containers": ["strings", "geometry", "transforms", "units", "ids"],
          "strings": ["units", "ids"],
          "bigint": [],
-         "geometry": ["transforms", "stitchplan"],
-         "transforms": ["stitchplan"],
+         "geometry": ["degenerate", "transforms", "stitchplan"],
+         "transforms": ["degenerate", "stitchplan"],
          "units": ["stitchplan"],
          "ids": []}
 

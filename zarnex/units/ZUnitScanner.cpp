@@ -131,8 +131,12 @@ namespace {
 constinit UnitEngine* spareEngine = nullptr;
 
 UnitEngine* takeEngine() {
-    UnitEngine* const spare = std::exchange(spareEngine, nullptr);
-    return spare != nullptr ? spare : new (std::nothrow) UnitEngine;
+    UnitEngine* engine = std::exchange(spareEngine, nullptr);
+    if (engine == nullptr)
+        engine = new (std::nothrow) UnitEngine;
+    if (engine == nullptr)
+        exitFatally("1: No space for scanner!\n", 1);
+    return engine;
 }
 
 void returnEngine(UnitEngine* engine) {
@@ -147,8 +151,6 @@ ZUnitScanner::ZUnitScanner(const wchar_t* text)
     : position_(text != nullptr ? text : L""), engine_(nullptr), value(0.0) {
     zarnex::detail::scannerLock().lock();
     engine_ = zarnex::detail::takeEngine();
-    if (engine_ == nullptr)
-        zarnex::exitFatally("1: No space for scanner!\n", 1);
     engine_->begin(position_);
 }
 
