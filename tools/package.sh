@@ -39,7 +39,7 @@ consume() {
 is() {
     local text=$1 printed
     shift
-    printed=$("$@" | tail -n 1 | tr -d '\r')
+    printed=$("$@" | tail -n 1 | tr -d '\r') || true
     [[ $printed == "$text" ]] || fail "\"$*\" printed \"$printed\" instead of \"$text\""
 }
 
