@@ -42,12 +42,12 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs
 
 # gdb loads the printers by itself where they stand under the full path of the library.
 set(debugger_files ${PROJECT_SOURCE_DIR}/tools/debugger)
-install(FILES ${debugger_files}/zarnex.natvis
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/zarnex COMPONENT development OPTIONAL)
-install(FILES ${debugger_files}/zarnex_gdb.py
+install(FILES ${debugger_files}/zarnex.natvis ${debugger_files}/zarnex_gdb.py
     DESTINATION ${CMAKE_INSTALL_DATADIR}/zarnex COMPONENT development OPTIONAL)
 if(NOT WIN32)
-    install(FILES ${debugger_files}/libzarnex-foundation.so.${PROJECT_VERSION}-gdb.py
+    install(FILES
+        ${debugger_files}/libzarnex-foundation.so.${PROJECT_VERSION}-gdb.py
+        ${debugger_files}/zarnex_gdb.py
         DESTINATION ${CMAKE_INSTALL_DATADIR}/gdb/auto-load${CMAKE_INSTALL_FULL_LIBDIR}
         COMPONENT development OPTIONAL)
 endif()
