@@ -42,15 +42,17 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs
 
 # gdb loads the printers by itself where they stand under the full path of the library.
 set(debugger_files ${PROJECT_SOURCE_DIR}/tools/debugger)
-install(FILES ${debugger_files}/zarnex.natvis ${debugger_files}/zarnex_gdb.py
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/zarnex COMPONENT development OPTIONAL)
-if(NOT WIN32)
-    install(FILES
-        ${debugger_files}/libzarnex-foundation.so.${PROJECT_VERSION}-gdb.py
-        ${debugger_files}/zarnex_gdb.py
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/gdb/auto-load${CMAKE_INSTALL_FULL_LIBDIR}
-        COMPONENT development OPTIONAL)
+if(WIN32)
+    set(printers ${debugger_files}/zarnex_gdb.py)
+    set(printers_dir ${CMAKE_INSTALL_DATADIR}/zarnex)
+else()
+    set(printers ${debugger_files}/zarnex_gdb.py
+        ${debugger_files}/libzarnex-foundation.so.${PROJECT_VERSION}-gdb.py)
+    set(printers_dir ${CMAKE_INSTALL_DATADIR}/gdb/auto-load${CMAKE_INSTALL_FULL_LIBDIR})
 endif()
+install(FILES ${printers} DESTINATION ${printers_dir} COMPONENT development OPTIONAL)
+install(FILES ${debugger_files}/zarnex.natvis
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/zarnex COMPONENT development OPTIONAL)
 
 # The host programs find the library relative to themselves, wherever the prefix stands.
 if(ZARNEX_BUILD_EXAMPLES)
