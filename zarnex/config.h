@@ -1,11 +1,18 @@
 #pragma once
 
+/// @file
 /// The compiler conditions that users of the library see.
 ///
 /// ZARNEX_API marks what crosses the boundary of the shared library. The build
 /// of the library itself defines ZARNEX_BUILDING_FOUNDATION; a host program
 /// defines nothing.
 
+/// @namespace zarnex
+/// What has no global name: iterators, plain functions, and in zarnex::detail what headers need
+/// and hosts do not.
+
+/// Marks what crosses the boundary of the shared library: exported by the library, imported by
+/// hosts.
 #if defined(_WIN32)
 #if defined(ZARNEX_BUILDING_FOUNDATION)
 #define ZARNEX_API __declspec(dllexport)

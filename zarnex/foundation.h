@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// Every public header of the library.
 
 #include <zarnex/bigint/SigUInt.h>
@@ -47,6 +48,9 @@
 #include <zarnex/geometry/segmentOverlap.h>
 #include <zarnex/geometry/tolerance.h>
 #include <zarnex/ids/ZGUIDWrapper.h>
+#include <zarnex/interop/hashing.h>
+#include <zarnex/interop/standardStrings.h>
+#include <zarnex/interop/streams.h>
 #include <zarnex/platform/records.h>
 #include <zarnex/runtime/MiniGuard.h>
 #include <zarnex/runtime/MiniLock.h>

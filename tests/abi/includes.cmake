@@ -15,6 +15,7 @@ set(may_include_transforms geometry strings containers runtime platform)
 set(may_include_units geometry strings containers runtime platform/records.h)
 set(may_include_ids strings containers runtime platform)
 set(may_include_bigint strings containers runtime platform/records.h)
+set(may_include_interop bigint ids units transforms geometry strings containers runtime)
 
 set(faults "")
 

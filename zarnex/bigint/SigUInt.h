@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// SigUInt, its operators and the modular power.
+
 #include <zarnex/config.h>
 #include <zarnex/strings/ZString.h>
 
@@ -52,33 +55,49 @@ class ZARNEX_API SigUInt {
 public:
     /// Zero.
     SigUInt() noexcept;
+
+    /// The number `value`; 0 for a negative one.
+    /// @{
     SigUInt(unsigned long long value) noexcept;
     template <class Number, zarnex::detail::IfInteger<Number, unsigned long long> = 0>
     SigUInt(Number value) noexcept
         : SigUInt(value > 0 ? static_cast<unsigned long long>(value) : 0ULL) {}
+    /// @}
+
+    /// Not for real numbers: round them first.
     template <class Real, std::enable_if_t<std::is_floating_point_v<Real>, int> = 0>
-    SigUInt(Real) = delete; // round it first
+    SigUInt(Real) = delete;
 
     /// The number whose digits to the base 256 or 65536 are given, most significant first.
     /// Leading zeros are dropped. Null or a count below 1 is zero.
+    /// @{
     SigUInt(const unsigned char* bytes, int count);
     SigUInt(const unsigned short* words, int count);
     SigUInt(std::nullptr_t, int) noexcept;
+    /// @}
 
+    /// The same number. One that was moved from is zero.
+    /// @{
     SigUInt(const SigUInt& other);
     SigUInt(SigUInt&& other) noexcept;
     SigUInt& operator=(const SigUInt& other);
     SigUInt& operator=(SigUInt&& other) noexcept;
+    /// @}
+
+    /// Frees the storage that a number of more than 256 bits took.
     ~SigUInt();
 
+    /// Adds `other`, in as many steps as the longer operand has limbs of 64 bits.
     SigUInt& operator+=(const SigUInt& other);
 
+    /// Takes `other` away, down to zero.
+    ///
     /// Kept as is: a difference below zero is zero, although the unsigned integers of the
     /// language wrap round.
     SigUInt& operator-=(const SigUInt& other);
 
-    /// Takes m * n steps for short operands of m and n limbs of 64 bits, and about
-    /// n * m^0.585 for long ones, n being the longer.
+    /// Multiplies by `other`. Takes m * n steps for short operands of m and n limbs of 64
+    /// bits, and about n * m^0.585 for long ones, n being the longer.
     SigUInt& operator*=(const SigUInt& other);
 
     /// The remainder of the division by `other`. Takes (m - n + 1) * n steps for m limbs over
@@ -92,12 +111,15 @@ public:
     ///
     /// Kept as is: a shift by a negative count goes the other way, although the language
     /// leaves it undefined. What is shifted up past the longest number is zero.
+    /// @{
     SigUInt& operator<<=(int bits);
     SigUInt& operator>>=(int bits);
     SigUInt operator<<(int bits) const;
     SigUInt operator>>(int bits) const;
+    /// @}
 
     /// The same for counts of every other integer type.
+    /// @{
     template <class Count, zarnex::detail::IfInteger<Count, int> = 0>
     SigUInt& operator<<=(Count bits) {
         return *this <<= zarnex::detail::nearestInt(bits);
@@ -114,15 +136,23 @@ public:
     SigUInt operator>>(Count bits) const {
         return *this >> zarnex::detail::nearestInt(bits);
     }
+    /// @}
 
+    /// Adds 1; the postfix form returns the number from before.
+    /// @{
     SigUInt& operator++();
     SigUInt operator++(int);
+    /// @}
 
+    /// Takes 1 away; the postfix form returns the number from before.
+    ///
     /// Kept as is: zero stays zero, as below zero in every difference.
+    /// @{
     SigUInt& operator--();
     SigUInt operator--(int);
+    /// @}
 
-    int isZero() const;
+    int isZero() const; ///< 1 for zero, else 0
 
     /// The position of the highest bit plus 1: 0 for zero, 1 for one, 8 for 255.
     int bitLength() const;
@@ -170,18 +200,23 @@ private:
     unsigned long long inside_[insideCount_];
 };
 
-/// As the compound forms do.
+/// A new number, computed as by the compound forms.
+/// @{
 ZARNEX_API SigUInt operator+(const SigUInt& a, const SigUInt& b);
 ZARNEX_API SigUInt operator-(const SigUInt& a, const SigUInt& b);
 ZARNEX_API SigUInt operator*(const SigUInt& a, const SigUInt& b);
 ZARNEX_API SigUInt operator%(const SigUInt& a, const SigUInt& b);
+/// @}
 
+/// Compares the values: 1 if it holds, else 0.
+/// @{
 ZARNEX_API int operator==(const SigUInt& a, const SigUInt& b);
 ZARNEX_API int operator!=(const SigUInt& a, const SigUInt& b);
 ZARNEX_API int operator<(const SigUInt& a, const SigUInt& b);
 ZARNEX_API int operator>(const SigUInt& a, const SigUInt& b);
 ZARNEX_API int operator<=(const SigUInt& a, const SigUInt& b);
 ZARNEX_API int operator>=(const SigUInt& a, const SigUInt& b);
+/// @}
 
 /// `a` to the power of `b`, modulo `c`.
 ///

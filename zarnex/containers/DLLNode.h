@@ -10,12 +10,15 @@ class DLList;
 /// linked to itself.
 class ZARNEX_API DLLNode {
 public:
+    /// A node in no list.
     DLLNode();
 
     /// Copies have a place of their own: the new node is in no list, and an assignment
     /// leaves both nodes where they are.
+    /// @{
     DLLNode(const DLLNode& other);
     DLLNode& operator=(const DLLNode& other);
+    /// @}
 
     /// Links the two neighbours to each other.
     ///

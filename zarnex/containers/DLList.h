@@ -24,9 +24,14 @@
 /// the empty list, until one of the members below moves it.
 class ZARNEX_API DLList {
 public:
+    /// An empty list.
     DLList();
+
+    /// Not to be copied: a node is in one list.
+    /// @{
     DLList(const DLList&) = delete;
     DLList& operator=(const DLList&) = delete;
+    /// @}
 
     /// Deletes the nodes, from the head on.
     virtual ~DLList();
@@ -62,8 +67,10 @@ public:
     DLLNode* current() const;
 
     /// Moves the current node one on or back round the ring; nothing if there is none.
+    /// @{
     void forward();
     void backward();
+    /// @}
 
     /// Calls `visit` with each node and `data`, from the head on, as long as it returns
     /// non-zero. Returns the node for which it returned 0; null if there was none, and for a
@@ -73,17 +80,21 @@ public:
     /// may be left out.
     DLLNode* apply(int (*visit)(DLLNode&, void*), void* data);
 
-    int isEmpty() const;
-    int length() const;
+    int isEmpty() const; ///< 1 if there are no nodes, else 0
+    int length() const;  ///< the number of nodes
 
-    /// 1 if `n` is the first, or last, node of this list. An empty list has null for both.
+    /// 1 if `n` is the first, or last, node of this list, else 0. An empty list has null for both.
+    /// @{
     int isHead(DLLNode* n) const;
     int isTail(DLLNode* n) const;
+    /// @}
 
     /// The neighbours of `n` round the ring, so that the first node follows the last. A node
     /// in no list is its own neighbour.
+    /// @{
     DLLNode& pred(DLLNode& n);
     DLLNode& succ(DLLNode& n);
+    /// @}
 
     /// Turns the ring until `n` is the head; returns 1. Returns 0 and changes nothing if it is
     /// not in this list or null.

@@ -19,12 +19,14 @@
 ///     QSort::sort(lengths, count, sizeof *lengths, byLength);
 class ZARNEX_API QSort {
 public:
+    /// How two elements compare, to derive from.
     class ZARNEX_API Callback {
     public:
         /// Negative if `a` comes before `b`, positive if after it, 0 if either order will
         /// do. Both point to elements, or to copies of their bytes.
         virtual int compare(const void* a, const void* b) = 0;
 
+        /// Releases nothing: the state is that of derived classes.
         virtual ~Callback();
     };
 

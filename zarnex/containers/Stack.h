@@ -10,7 +10,9 @@
 ///     delete open.pop();
 class ZARNEX_API Stack : public DLList {
 public:
-    Stack();
+    Stack(); ///< an empty stack
+
+    /// Deletes the nodes, from the head on.
     ~Stack() override;
 
     /// Makes `n` the head. Nothing if it is in a list already.

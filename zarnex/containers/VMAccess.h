@@ -18,8 +18,12 @@ class ZARNEX_API VMAccess {
 public:
     /// No block.
     VMAccess();
+
+    /// The same block, not one of its own.
+    /// @{
     VMAccess(const VMAccess& other);
     VMAccess& operator=(const VMAccess& other);
+    /// @}
 
     /// Gets a block of `bytes` bytes, not initialised, without freeing one held
     /// before. Returns 0; ends the process through abort() if there is no room.
@@ -47,8 +51,10 @@ public:
     int saveBlock(void* src, long offset, long bytes);
 
     /// Hooks for diagnostics; both do nothing.
+    /// @{
     void printHeapWalk(std::ostream& out);
     void printMemorySummary(std::ostream& out);
+    /// @}
 
     /// Ends the process for a fatal failure: setExiting(), then exit().
     ///
@@ -57,5 +63,5 @@ public:
     [[noreturn]] void abort(int code);
 
 protected:
-    unsigned char* block_ = nullptr; // null before allocate()
+    unsigned char* block_ = nullptr; ///< null before allocate()
 };

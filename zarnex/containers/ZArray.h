@@ -42,10 +42,14 @@ public:
     /// size. `extra` only enters size().
     ZArray(unsigned int n, unsigned long extra);
 
+    /// Shares the block and the cache of `other`.
+    ///
     /// Kept as is: copies share the block and the cache, although the other
     /// arrays copy theirs. Each destructor frees both: let only one run.
+    /// @{
     ZArray(const ZArray& other);
     ZArray& operator=(const ZArray& other);
+    /// @}
 
     /// Frees the cache and the block.
     ~ZArray();

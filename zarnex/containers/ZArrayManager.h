@@ -9,12 +9,18 @@
 /// Kept as is: every operation does nothing. ZArray manages its own block.
 class ZARNEX_API ZArrayManager {
 public:
-    explicit ZArrayManager(unsigned long bytes);
+    explicit ZArrayManager(unsigned long bytes); ///< ignores `bytes`
+
+    /// Nothing to copy: there is no state.
+    /// @{
     ZArrayManager(const ZArrayManager& other);
     ZArrayManager& operator=(const ZArrayManager& other);
+    /// @}
+
+    /// Releases nothing: there is no state.
     ~ZArrayManager();
 
-    void growHeap();
+    void growHeap(); ///< does nothing
 
     /// Writes nothing; returns 0.
     int printStatus(std::ostream& out);

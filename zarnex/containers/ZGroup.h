@@ -20,13 +20,17 @@ public:
     /// An empty group with room for `n` items; 0 counts as 1. Without room for a negative
     /// `n` and where there is no memory for as many; the room grows as needed anyway.
     ZGroup(int n);
+
+    /// Not to be copied: an item is in one group.
+    /// @{
     ZGroup(const ZGroup&) = delete;
     ZGroup& operator=(const ZGroup&) = delete;
+    /// @}
 
     /// Leaves the members without a parent.
     ~ZGroup() override;
 
-    int isGroup() override;
+    int isGroup() override; ///< 1
 
     /// Appends `item`; returns 0. Returns -1 and changes nothing for null, for an item that
     /// is in a group, for this group itself and if there is no memory. The room grows by 32
@@ -78,15 +82,19 @@ public:
     /// Kept as is: compares the members, although == of ZGroupable asks for a sibling. As no
     /// item is in two groups, only the group itself is equal, and empty groups are.
     int operator==(ZGroup* other) const;
+
+    /// 1 where == gives 0, else 0.
     int operator!=(const ZGroup* other) const;
 
-    /// The same; see ZGroupable.
+    /// The exact matches that C++20 asks for; see ZGroupable.
+    /// @{
     int operator!=(ZGroup* other) const;
     template <class Null,
               std::enable_if_t<std::is_null_pointer_v<Null> || std::is_integral_v<Null>, int> = 0>
     int operator!=(Null) const {
         return 1;
     }
+    /// @}
 
 private:
     int grow(); ///< makes room for more; 0 if there is no memory

@@ -31,23 +31,30 @@ public:
     /// ZGroup asks for identity and content. Any two items that are in no group compare
     /// equal.
     int operator==(ZGroupable* other);
+
+    /// 1 where == gives 0, else 0.
     int operator!=(const ZGroupable* other);
 
-    /// The same. Without an exact match C++20 would make != from ==, whose result is no bool.
+    /// Exact matches: without them C++20 would make != from ==, whose result is no bool.
+    /// @{
     int operator!=(ZGroupable* other);
     template <class Null,
               std::enable_if_t<std::is_null_pointer_v<Null> || std::is_integral_v<Null>, int> = 0>
     int operator!=(Null) {
         return 1;
     }
+    /// @}
 
 protected:
+    /// An item in no group.
     ZGroupable();
 
     /// Copies have a place of their own: the new item is in no group, and an assignment
     /// leaves both items in theirs.
+    /// @{
     ZGroupable(const ZGroupable& other);
     ZGroupable& operator=(const ZGroupable& other);
+    /// @}
 
 private:
     friend class ZGroup;

@@ -35,6 +35,8 @@
 template <class T>
 class ZList {
 public:
+    /// What algorithms of the standard library ask for.
+    /// @{
     using value_type = T;
     using size_type = std::size_t;
     using difference_type = std::ptrdiff_t;
@@ -44,8 +46,12 @@ public:
     using const_iterator = zarnex::ZListIterator<const T, false>;
     using reverse_iterator = zarnex::ZListIterator<T, true>;
     using const_reverse_iterator = zarnex::ZListIterator<const T, true>;
+    /// @}
 
+    /// An empty list.
     ZList();
+
+    /// Copies `elements`, in order.
     ZList(std::initializer_list<T> elements);
 
     /// Copies every element, in order.
@@ -54,6 +60,7 @@ public:
     /// Takes over the nodes of `source`, which is left empty, in constant time.
     ZList(ZList&& source) noexcept;
 
+    /// Removes all elements, first to last.
     virtual ~ZList();
 
     /// Empties this list, then copies every element of `source`, in order.
@@ -94,22 +101,29 @@ public:
 
     /// Removes the element at `position` and leaves `position` at the next one,
     /// or at end(). Nothing at end() and for an iterator of another list.
+    /// @{
     void remove(iterator& position);
     void remove(iterator&& position);
+    /// @}
 
     /// Removes all elements, first to last.
     void empty();
 
-    long length() const;
+    long length() const; ///< the number of elements
+
+    /// The same, as standard containers have it. (Their empty() asks; this one removes.)
+    std::size_t size() const;
 
     /// The element at `index`, which wraps; only its lower 32 bits count.
     ///
     /// Not for empty lists: all those of one type answer with one element that is
     /// in none of them, at first default-constructed. Where T has no default
     /// constructor, the process ends with status 1.
+    /// @{
     T& operator[](long index);
     const T& operator[](long index) const;
     T& operator()(long index);
+    /// @}
 
     /// The position of the first element equal to `element`; -1 if there is none.
     int find(const T& element) const;
@@ -142,8 +156,11 @@ public:
 
     /// 1 if both hold equal elements in the same order; 0 for lists with NaN.
     int operator==(const ZList& other) const;
-    int operator!=(const ZList& other) const;
+    int operator!=(const ZList& other) const; ///< 1 where == gives 0, else 0
 
+    /// The first element and the end position, forwards and, for the r forms, from the last
+    /// element back.
+    /// @{
     iterator begin();
     const_iterator begin() const;
     const_iterator cbegin() const;
@@ -156,15 +173,20 @@ public:
     reverse_iterator rend();
     const_reverse_iterator rend() const;
     const_reverse_iterator crend() const;
+    /// @}
 
     /// The iterator at position `index`; end() unless `index` is in
     /// [0, length()): this one does not wrap.
+    /// @{
     iterator it(int index);
     const_iterator it(int index) const;
+    /// @}
 
     /// The same for the reverse iterators; rend() out of range.
+    /// @{
     reverse_iterator rit(int index);
     const_reverse_iterator rit(int index) const;
+    /// @}
 
 private:
     template <class, bool>

@@ -141,6 +141,11 @@ ZARNEX_TEMPLATE_INLINE long ZList<T>::length() const {
 }
 
 template <class T>
+ZARNEX_TEMPLATE_INLINE std::size_t ZList<T>::size() const {
+    return count_;
+}
+
+template <class T>
 ZARNEX_TEMPLATE_INLINE T& ZList<T>::operator[](long index) {
     ZListNode<T>* const node = getNode(static_cast<int>(index));
     return node != nullptr ? node->data : noElement();

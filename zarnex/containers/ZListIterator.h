@@ -27,11 +27,14 @@ class ZListIterator {
     using T = std::remove_const_t<Element>;
 
 public:
+    /// What algorithms of the standard library ask for.
+    /// @{
     using iterator_category = std::bidirectional_iterator_tag;
     using value_type = T;
     using difference_type = std::ptrdiff_t;
     using pointer = Element*;
     using reference = Element&;
+    /// @}
 
     /// Belongs to no list; only good for being assigned to.
     ZListIterator() = default;
@@ -43,14 +46,18 @@ public:
     ZListIterator(const ZListIterator<Writable, Backwards>& other)
         : node_(other.node_), list_(other.list_) {}
 
-    /// Must not be at the end position.
+    /// The element. Not at the end position.
+    /// @{
     Element& operator*() const {
         return node_->data;
     }
     Element* operator->() const {
         return &node_->data;
     }
+    /// @}
 
+    /// One element on, in the direction of the iterator, or to the end position.
+    /// @{
     ZListIterator& operator++() {
         step(Backwards);
         return *this;
@@ -60,6 +67,10 @@ public:
         ++*this;
         return before;
     }
+    /// @}
+
+    /// One element back; from the end position to the last element, from the first to the end.
+    /// @{
     ZListIterator& operator--() {
         if (node_ == nullptr)
             node_ = last();
@@ -72,13 +83,17 @@ public:
         --*this;
         return before;
     }
+    /// @}
 
+    /// Equal at the same element of the same list, and at the end position of the same list.
+    /// @{
     friend bool operator==(const ZListIterator& a, const ZListIterator& b) {
         return a.node_ == b.node_ && a.list_ == b.list_;
     }
     friend bool operator!=(const ZListIterator& a, const ZListIterator& b) {
         return !(a == b);
     }
+    /// @}
 
 private:
     friend class ZList<T>;

@@ -6,7 +6,12 @@ struct ZListNode {
     /// Copies `element`; not linked yet.
     explicit ZListNode(const T& element) : data(element), next(nullptr), prev(nullptr) {}
 
-    T data;
+    T data; ///< the element
+
+    /// The neighbours in the ring; the node itself where it is the only one, null while it is
+    /// not linked.
+    /// @{
     ZListNode* next;
     ZListNode* prev;
+    /// @}
 };

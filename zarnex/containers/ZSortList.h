@@ -30,7 +30,10 @@ public:
     /// Smallest first for a non-zero `ascending`, largest first for 0.
     explicit ZSortList(int ascending);
 
+    /// Copies the elements and the direction.
     ZSortList(const ZSortList& source);
+
+    /// Takes over the nodes and copies the direction; `source` is left empty.
     ZSortList(ZSortList&& source) noexcept;
 
     /// An ascending list of the elements of `source`.
@@ -38,11 +41,14 @@ public:
     /// Kept as is: in the order of `source`, not sorted.
     ZSortList(const ZList<T>& source);
 
+    /// Removes all elements, first to last.
     ~ZSortList() override;
 
     /// Copies the elements and the direction. As in ZList, assigning a list to
     /// itself empties it.
     ZSortList& operator=(const ZSortList& source);
+
+    /// Empties this list, then takes over the nodes of `source` and copies the direction.
     ZSortList& operator=(ZSortList&& source) noexcept;
 
     /// Puts a copy of `element` at its place in the order, behind those equal to

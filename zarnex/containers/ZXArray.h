@@ -3,6 +3,8 @@
 #include <zarnex/config.h>
 #include <zarnex/containers/ZList.h>
 
+#include <cstddef>
+#include <iterator>
 #include <type_traits>
 #include <utility>
 
@@ -18,7 +20,8 @@
 ///
 ///     ZXArray<double> lengths;
 ///     lengths.add(2.5);
-///     lengths[3] = 4.0; // length 4
+///     lengths[1] = 1.0; // length 2
+///     std::sort(lengths.begin(), lengths.end());
 ///
 /// Nothing throws but the copying of elements that throws, such as that of lists. Where
 /// storage cannot be had, operations that must return a slot end the process with "failed
@@ -27,6 +30,21 @@
 template <class T>
 class ZARNEX_WIDE ZXArray {
 public:
+    /// What algorithms of the standard library ask for.
+    /// @{
+    using value_type = T;
+    using size_type = std::size_t;
+    using difference_type = std::ptrdiff_t;
+    using reference = T&;
+    using const_reference = const T&;
+    using pointer = T*;
+    using const_pointer = const T*;
+    using iterator = T*;
+    using const_iterator = const T*;
+    using reverse_iterator = std::reverse_iterator<T*>;
+    using const_reverse_iterator = std::reverse_iterator<const T*>;
+    /// @}
+
     /// No storage, length 0, step -1.
     ZXArray();
 
@@ -43,30 +61,42 @@ public:
 
     /// Copies every allocated slot, the used ones and the spare ones.
     ZXArray(const ZXArray& other);
+
+    /// Takes over the storage of `other`, which is left as a new array.
     ZXArray(ZXArray&& other) noexcept;
+
+    /// Copies every allocated slot, the step and the empty value.
     ZXArray& operator=(const ZXArray& other);
+
+    /// Exchanges the whole state with `other`.
     ZXArray& operator=(ZXArray&& other) noexcept;
 
+    /// Frees the storage.
     virtual ~ZXArray();
 
     /// 1 for the same object or for equal lengths and pairwise equal elements.
     virtual int operator==(const ZXArray& other) const;
-    virtual int operator!=(const ZXArray& other) const;
+    virtual int operator!=(const ZXArray& other) const; ///< 1 where == gives 0, else 0
 
     /// Slot `i`; extends the array when `i` is at or past the length.
+    /// @{
     T& get(int i);
     T& operator[](int i);
     T& operator()(int i);
+    /// @}
 
     /// Slot `i`, or the empty value when `i` is at or past the allocation.
     ///
     /// Kept as is: bounded by the allocation, although all else is bounded by
     /// the length, so spare slots can be read.
+    /// @{
     const T& get(int i) const;
     const T& operator[](int i) const;
     const T& operator()(int i) const;
+    /// @}
 
     /// The same for every other integer type, as an int.
+    /// @{
     template <class Index, std::enable_if_t<std::is_integral_v<Index>, int> = 0>
     T& operator[](Index i) {
         return get(static_cast<int>(i));
@@ -75,10 +105,13 @@ public:
     const T& operator[](Index i) const {
         return get(static_cast<int>(i));
     }
+    /// @}
 
     /// The first slot; null without storage.
+    /// @{
     operator T*();
     operator const T*() const;
+    /// @}
 
     /// Stores `value` in slot `i`, extending the array as get() does.
     void set(int i, const T& value);
@@ -89,16 +122,20 @@ public:
     /// Appends the empty value.
     T& add();
 
-    /// Inserts `value` in front of slot `i`; past the end, extends the array to
-    /// length `i` + 1.
+    /// Inserts `value`, or the empty value, in front of slot `i`; past the end, extends
+    /// the array to length `i` + 1. Returns the slot.
+    /// @{
     T& ins(int i, const T& value);
     T& ins(int i);
     T& insert(const T& value, int i);
+    /// @}
 
     /// Removes slot `i`; nothing at or past the length. The vacated last slot
     /// becomes the empty value.
+    /// @{
     void del(int i);
     void remove(int i);
+    /// @}
 
     /// The index of the first element equal to `value`, or of the last one when
     /// `fromEnd` is not 0; -1 if there is none.
@@ -137,19 +174,43 @@ public:
 
     /// From now on spare slots and slots that growth adds hold `value`.
     void setEmpty(const T& value);
-    const T& getEmpty() const;
-    int isEmptySet() const;
 
-    /// Elements in use, slots allocated, and the bytes of the latter.
-    int length() const;
-    int allocLength() const;
-    int allocBytes() const;
+    const T& getEmpty() const; ///< the empty value, at first a default one
+    int isEmptySet() const;    ///< 1 once setEmpty() was called, here or on what was copied
 
-    int getStep() const;
-    int setStep(int step);
+    int length() const;      ///< elements in use
+    int allocLength() const; ///< slots allocated
+    int allocBytes() const;  ///< their bytes, wrapped into 32 bits
+
+    int getStep() const;   ///< below 1 the allocation doubles as it grows
+    int setStep(int step); ///< for what grows from now on; returns `step`
 
     /// Exchanges the whole state of two arrays.
     void swap(ZXArray& other) noexcept;
+
+    /// @name As standard containers have it
+    /// @{
+
+    /// The elements in use, from the first to behind the last; both null without storage. Good
+    /// until the length or the allocation changes, which these do not.
+    iterator begin();
+    const_iterator begin() const;
+    const_iterator cbegin() const;
+    iterator end();
+    const_iterator end() const;
+    const_iterator cend() const;
+    reverse_iterator rbegin();
+    const_reverse_iterator rbegin() const;
+    const_reverse_iterator crbegin() const;
+    reverse_iterator rend();
+    const_reverse_iterator rend() const;
+    const_reverse_iterator crend() const;
+
+    T* data();             ///< the first slot; null without storage
+    const T* data() const; ///< the same
+
+    std::size_t size() const; ///< length()
+    /// @}
 
 protected:
     /// The allocation that the growth rule gives for `n` slots; 0 for `n` < 1.

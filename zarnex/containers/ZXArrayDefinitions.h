@@ -391,6 +391,72 @@ int ZXArray<T>::allocBytes() const {
 }
 
 template <class T>
+ZARNEX_TEMPLATE_INLINE T* ZXArray<T>::begin() {
+    return data_;
+}
+template <class T>
+ZARNEX_TEMPLATE_INLINE const T* ZXArray<T>::begin() const {
+    return data_;
+}
+template <class T>
+ZARNEX_TEMPLATE_INLINE const T* ZXArray<T>::cbegin() const {
+    return data_;
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE T* ZXArray<T>::end() {
+    return data_ + length_;
+}
+template <class T>
+ZARNEX_TEMPLATE_INLINE const T* ZXArray<T>::end() const {
+    return data_ + length_;
+}
+template <class T>
+ZARNEX_TEMPLATE_INLINE const T* ZXArray<T>::cend() const {
+    return data_ + length_;
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE typename ZXArray<T>::reverse_iterator ZXArray<T>::rbegin() {
+    return reverse_iterator(end());
+}
+template <class T>
+ZARNEX_TEMPLATE_INLINE typename ZXArray<T>::const_reverse_iterator ZXArray<T>::rbegin() const {
+    return const_reverse_iterator(end());
+}
+template <class T>
+ZARNEX_TEMPLATE_INLINE typename ZXArray<T>::const_reverse_iterator ZXArray<T>::crbegin() const {
+    return const_reverse_iterator(end());
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE typename ZXArray<T>::reverse_iterator ZXArray<T>::rend() {
+    return reverse_iterator(begin());
+}
+template <class T>
+ZARNEX_TEMPLATE_INLINE typename ZXArray<T>::const_reverse_iterator ZXArray<T>::rend() const {
+    return const_reverse_iterator(begin());
+}
+template <class T>
+ZARNEX_TEMPLATE_INLINE typename ZXArray<T>::const_reverse_iterator ZXArray<T>::crend() const {
+    return const_reverse_iterator(begin());
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE T* ZXArray<T>::data() {
+    return data_;
+}
+template <class T>
+ZARNEX_TEMPLATE_INLINE const T* ZXArray<T>::data() const {
+    return data_;
+}
+
+template <class T>
+ZARNEX_TEMPLATE_INLINE std::size_t ZXArray<T>::size() const {
+    return static_cast<std::size_t>(length_);
+}
+
+template <class T>
 ZARNEX_TEMPLATE_INLINE int ZXArray<T>::getStep() const {
     return step_;
 }

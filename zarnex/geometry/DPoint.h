@@ -19,32 +19,49 @@
 /// IEEE arithmetic in every member. Members that change the point return it.
 class ZARNEX_API DPoint {
 public:
+    /// The coordinates, in a unit of the host's choice.
+    /// @{
     double x;
     double y;
+    /// @}
 
     /// The origin.
     DPoint();
-    DPoint(double x, double y);
+    DPoint(double x, double y); ///< the place (x, y)
+
+    /// Both coordinates, as they are.
+    /// @{
     DPoint(const DPoint&) = default;
     DPoint& operator=(const DPoint&) = default;
+    /// @}
 
+    /// A coordinate, to read or to write.
+    /// @{
     double& xval();
     double& yval();
     double xval() const;
     double yval() const;
+    /// @}
 
+    /// Coordinate by coordinate. The difference of two points is the vector from `p` to this
+    /// one.
+    /// @{
     DPoint operator+(const DPoint& p) const;
     DPoint operator+(const DVector& v) const;
     DVector operator-(const DPoint& p) const;
     DPoint operator-(const DVector& v) const;
     DPoint operator-() const;
+    /// @}
 
+    /// The same in place; a reference to the point is returned.
+    /// @{
     DPoint& operator+=(const DPoint& p);
     DPoint& operator+=(const DVector& v);
     DPoint& operator-=(const DPoint& p);
     DPoint& operator-=(const DVector& v);
+    /// @}
 
-    DPoint operator*(const double& s) const;
+    DPoint operator*(const double& s) const; ///< both coordinates times `s`
 
     /// Both coordinates over `d`, with infinities or NaN for a `d` of 0.
     DPoint operator/(const double& d) const;
@@ -55,20 +72,27 @@ public:
     /// Kept as is: a strict bound, although the tests in tolerance.h are inclusive. Not
     /// transitive: no order or hash for containers can agree with it.
     int operator==(const DPoint& p) const;
-    int operator!=(const DPoint& p) const;
+    int operator!=(const DPoint& p) const; ///< 1 where == gives 0, else 0
 
+    /// 1 if it holds in x and in y, else 0.
+    ///
     /// Kept as is: dominance, not an order. Each holds when it holds for x and for
     /// y, exactly, so that two points can be neither less, equal nor greater. Do not
     /// sort by it.
+    /// @{
     int operator<(const DPoint& p) const;
     int operator<=(const DPoint& p) const;
     int operator>(const DPoint& p) const;
     int operator>=(const DPoint& p) const;
+    /// @}
 
+    /// The length of the straight way to `p`: the root of squaredDistance().
     double distance(const DPoint& p) const;
+
+    /// The squares of the differences in x and in y, summed.
     double squaredDistance(const DPoint& p) const;
 
-    /// The sum of the differences in x and in y.
+    /// The sum of the sizes of the differences in x and in y.
     double manhattanDistance(const DPoint& p) const;
 
     /// Adds (dx, dy) in place.
@@ -77,6 +101,8 @@ public:
     /// Multiplies x by `sx` and y by `sy` in place.
     DPoint& scale(double sx, double sy);
 
+    /// Multiplies x by `sx` and y by `sy` in place and rounds the products.
+    ///
     /// Kept as is: scale() that leaves the point on the integer grid, each product
     /// rounded with halves away from zero (see zarnex::roundHalfAway).
     DPoint& roundScale(double sx, double sy);

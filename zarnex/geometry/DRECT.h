@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// Axis-parallel rectangles in double precision.
 ///
 /// Comparisons have a tolerance: an edge v stands for all values from v - t to v + t with
@@ -27,23 +28,28 @@
 
 /// A rectangle. A plain record, uninitialised unless the host gives it values.
 struct DRECT {
-    double left;
-    double top;
-    double right;
-    double bottom;
+    double left;   ///< the edge of the least x
+    double top;    ///< the edge of the least y
+    double right;  ///< the edge of the greatest x
+    double bottom; ///< the edge of the greatest y
 };
 
 /// A place for the point tests of rectangles; DPoint is the class to calculate with.
 struct DBLPOINT {
+    /// The coordinates, in the unit of the rectangle.
+    /// @{
     double x;
     double y;
+    /// @}
 };
 
+/// Sets all four fields.
 ZARNEX_API void SetDRect(DRECT* r, double left, double top, double right, double bottom);
 
 /// Sets all four fields to 0.
 ZARNEX_API void SetDRectEmpty(DRECT* r);
 
+/// Copies all four fields.
 ZARNEX_API void CopyDRect(DRECT* dst, const DRECT* src);
 
 /// Moves the left and right edges outward by `dx`, top and bottom by `dy`; inward if those

@@ -18,26 +18,40 @@
 /// IEEE arithmetic in every member. Members that change the vector return it.
 class ZARNEX_API DVector {
 public:
+    /// The components, in a unit of the host's choice.
+    /// @{
     double x;
     double y;
+    /// @}
 
     /// The zero vector.
     DVector();
-    DVector(double x, double y);
+    DVector(double x, double y); ///< the way from (0, 0) to (x, y)
+
+    /// Both components, as they are.
+    /// @{
     DVector(const DVector&) = default;
     DVector& operator=(const DVector&) = default;
+    /// @}
 
+    /// A component, to read or to write.
+    /// @{
     double& xval();
     double& yval();
     double xval() const;
     double yval() const;
+    /// @}
 
+    /// Component by component.
+    /// @{
     DVector operator+(const DVector& v) const;
     DVector operator-(const DVector& v) const;
     DVector operator-() const;
-    DVector& operator+=(const DVector& v);
+    /// @}
 
-    DVector operator*(const double& s) const;
+    DVector& operator+=(const DVector& v); ///< adds in place
+
+    DVector operator*(const double& s) const; ///< both components times `s`
 
     /// Both components over `d`.
     ///
@@ -54,15 +68,19 @@ public:
     /// Kept as is: a strict bound, although the tests in tolerance.h are inclusive. Not
     /// transitive: no order or hash for containers can agree with it.
     int operator==(const DVector& v) const;
-    int operator!=(const DVector& v) const;
+    int operator!=(const DVector& v) const; ///< 1 where == gives 0, else 0
 
+    /// 1 if it holds of the lengths, else 0.
+    ///
     /// Kept as is: compares the lengths, so that two vectors can be neither less
     /// nor greater without being equal. Points compare by coordinate.
+    /// @{
     int operator<(const DVector& v) const;
     int operator>(const DVector& v) const;
+    /// @}
 
-    double length() const;
-    double squaredLength() const;
+    double length() const;        ///< the root of squaredLength()
+    double squaredLength() const; ///< x * x + y * y
 
     /// x * v.y - y * v.x: above 0 if `v` points to the left of this vector.
     double cross(const DVector& v) const;

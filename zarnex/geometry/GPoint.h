@@ -16,17 +16,33 @@ public:
 
     /// Both coordinates `v`.
     GPoint(double v);
-    GPoint(double x, double y);
+    GPoint(double x, double y); ///< the point (x, y)
+
+    /// The same place, as it is.
+    /// @{
     GPoint(const ZTPoint<double>& p);
     GPoint(const DPoint& p);
+    /// @}
+
+    /// Both coordinates, as they are.
+    /// @{
     GPoint(const GPoint&) = default;
     GPoint& operator=(const GPoint&) = default;
+    /// @}
+
+    /// Releases nothing: the coordinates are in the object.
     ~GPoint() override;
 
+    /// The same place, as it is.
     operator DPoint() const;
 
+    /// A coordinate.
+    /// @{
     double getX() const;
     double getY() const;
+    /// @}
+
+    /// Sets both coordinates. An argument may be a coordinate of the point.
     void set(const double& x, const double& y);
 
     /// Sets both coordinates to 0.

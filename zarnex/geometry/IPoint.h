@@ -15,58 +15,92 @@
 /// Members say what differs from DPoint, where each is described.
 class ZARNEX_API IPoint {
 public:
+    /// The coordinates, in a unit of the host's choice.
+    /// @{
     int x;
     int y;
+    /// @}
 
     /// The origin.
     IPoint();
-    IPoint(int x, int y);
+    IPoint(int x, int y); ///< the place (x, y)
+
+    /// Both coordinates, as they are.
+    /// @{
     IPoint(const IPoint&) = default;
     IPoint& operator=(const IPoint&) = default;
+    /// @}
 
+    /// A coordinate, to read or to write.
+    /// @{
     int& xval();
     int& yval();
     int xval() const;
     int yval() const;
+    /// @}
 
+    /// Coordinate by coordinate; each wraps. The difference of two points is the vector from
+    /// `p` to this one.
+    /// @{
     IPoint operator+(const IPoint& p) const;
     IPoint operator+(const IVector& v) const;
     IVector operator-(const IPoint& p) const;
     IPoint operator-(const IVector& v) const;
     IPoint operator-() const;
+    /// @}
 
+    /// The same in place; a reference to the point is returned.
+    /// @{
     IPoint& operator+=(const IPoint& p);
     IPoint& operator+=(const IVector& v);
     IPoint& operator-=(const IPoint& p);
     IPoint& operator-=(const IVector& v);
+    /// @}
 
+    /// Both coordinates times `s`, or over `d`, truncated. Over 0 a coordinate other than 0
+    /// becomes the least or the greatest, and 0 stays 0.
+    /// @{
     IPoint operator*(const double& s) const;
     IPoint operator/(const double& d) const;
+    /// @}
 
     /// 1 if both coordinates are exactly equal, else 0.
     int operator==(const IPoint& p) const;
-    int operator!=(const IPoint& p) const;
+    int operator!=(const IPoint& p) const; ///< 1 where == gives 0, else 0
 
+    /// 1 if it holds in x and in y, else 0.
+    ///
     /// Kept as is: dominance, not an order. Each holds when it holds for x and for
     /// y, so that two points can be neither less, equal nor greater. Do not sort by it.
+    /// @{
     int operator<(const IPoint& p) const;
     int operator<=(const IPoint& p) const;
     int operator>(const IPoint& p) const;
     int operator>=(const IPoint& p) const;
+    /// @}
 
+    /// The length of the straight way to `p`, its square, and the sum of the sizes of the
+    /// differences in x and in y. Nothing wraps or is truncated.
+    /// @{
     double distance(const IPoint& p) const;
     double squaredDistance(const IPoint& p) const;
     double manhattanDistance(const IPoint& p) const;
+    /// @}
 
+    /// Adds (dx, dy) in place.
+    ///
     /// Kept as is: the sums are truncated toward zero, although + wraps and a
     /// ZCoord is moved by integers.
     IPoint& translate(double dx, double dy);
 
+    /// Multiplies x by `sx` and y by `sy` in place and truncates the products.
     IPoint& scale(double sx, double sy);
 
     /// scale() with the products rounded, halves away from zero.
     IPoint& roundScale(double sx, double sy);
 
+    /// Turns the point by `degrees` about `centre`.
+    ///
     /// Kept as is: truncates the result toward zero, although roundScale() and
     /// matrixRot() round, and with the short pi of DPoint::rotate: (10, 0) turned by
     /// 90 about the origin is (0, 9).
@@ -75,6 +109,8 @@ public:
     /// Rounds the result, halves away from zero.
     IPoint& matrixRot(const double m[2][3], double z);
 
+    /// Reflects the point about the line through `a` and `b`; about the horizontal through
+    /// `a` where they are equal. The result is truncated.
     IPoint& mirror(const IPoint& a, const IPoint& b);
 };
 

@@ -12,42 +12,64 @@
 /// Members say what differs from DVector, where each is described.
 class ZARNEX_API IVector {
 public:
+    /// The components, in a unit of the host's choice.
+    /// @{
     int x;
     int y;
+    /// @}
 
     /// The zero vector.
     IVector();
-    IVector(int x, int y);
+    IVector(int x, int y); ///< the way from (0, 0) to (x, y)
+
+    /// Both components, as they are.
+    /// @{
     IVector(const IVector&) = default;
     IVector& operator=(const IVector&) = default;
+    /// @}
 
+    /// A component, to read or to write.
+    /// @{
     int& xval();
     int& yval();
     int xval() const;
     int yval() const;
+    /// @}
 
+    /// Component by component; each wraps.
+    /// @{
     IVector operator+(const IVector& v) const;
     IVector operator-(const IVector& v) const;
     IVector operator-() const;
-    IVector& operator+=(const IVector& v);
+    /// @}
 
-    IVector operator*(const double& s) const;
+    IVector& operator+=(const IVector& v); ///< adds in place and wraps
 
+    IVector operator*(const double& s) const; ///< both components times `s`, truncated
+
+    /// x * v.x + y * v.y.
+    ///
     /// Kept as is: the dot product, wrapped into 32 bits, although length() and cross()
     /// are doubles. projectOn(), projectOnUnit() and isSameSense() use a double as well.
     int operator*(const IVector& v) const;
 
     /// 1 if both components are exactly equal, else 0.
     int operator==(const IVector& v) const;
-    int operator!=(const IVector& v) const;
+    int operator!=(const IVector& v) const; ///< 1 where == gives 0, else 0
 
+    /// 1 if it holds of the lengths, else 0.
+    ///
     /// Kept as is: compares the lengths, so that two vectors can be neither less
     /// nor greater without being equal. Points compare by coordinate.
+    /// @{
     int operator<(const IVector& v) const;
     int operator>(const IVector& v) const;
+    /// @}
 
-    double length() const;
-    double squaredLength() const;
+    double length() const;        ///< the root of squaredLength()
+    double squaredLength() const; ///< x * x + y * y, which does not wrap
+
+    /// x * v.y - y * v.x, which does not wrap: above 0 if `v` points to the left.
     double cross(const IVector& v) const;
 
     /// The zero vector unchanged; otherwise components of -1, 0 and 1.
@@ -56,15 +78,28 @@ public:
     /// (3, 4) gives (0, 0), and so does (49, 0), as 49 * (1.0 / 49) is below 1.
     IVector normalize() const;
 
+    /// (-y * s, x * s), wrapped: a quarter turn to the left for s = 1, to the right for -1.
     IVector ortho(int s) const;
+
+    /// The part of this vector along `v`, truncated; `v` itself if it is zero.
     IVector projectOn(const IVector& v) const;
+
+    /// projectOn() for a `unit` of length 1, which is not checked. Only the four axes have
+    /// one.
     IVector projectOnUnit(const IVector& unit) const;
 
+    /// This vector reflected about the direction `v`; its negative if `v` is zero.
+    ///
     /// Kept as is: the projection is truncated before it is doubled.
     IVector mirror(const IVector& v) const;
 
-    IVector& reverse();
+    IVector& reverse(); ///< negates both components in place; the least value stays
+
+    /// Multiplies x by `sx` and y by `sy` in place and truncates the products.
     IVector& scale(double sx, double sy);
+
+    /// 1 if `v` points to the same side as this vector, else 0, by the rule of
+    /// DVector::isSameSense(), from the exact products.
     int isSameSense(const IVector& v) const;
 };
 

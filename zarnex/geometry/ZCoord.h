@@ -14,57 +14,89 @@
 template <class T>
 class ZCoord {
 public:
+    /// The coordinates, in a unit of the host's choice.
+    /// @{
     T x;
     T y;
+    /// @}
 
     /// The origin.
     ZCoord();
-    ZCoord(const T& x, const T& y);
+    ZCoord(const T& x, const T& y); ///< the place (x, y)
+
+    /// Both coordinates, as they are.
+    /// @{
     ZCoord(const ZCoord&) = default;
     ZCoord& operator=(const ZCoord&) = default;
+    /// @}
 
+    /// A coordinate, to read or to write.
+    /// @{
     T& xval();
     T& yval();
     T xval() const;
     T yval() const;
+    /// @}
 
+    /// Coordinate by coordinate; each wraps. The difference of two points is the vector from
+    /// `p` to this one.
+    /// @{
     ZCoord operator+(const ZCoord& p) const;
     ZCoord operator+(const ZVector<T>& v) const;
     ZVector<T> operator-(const ZCoord& p) const;
     ZCoord operator-(const ZVector<T>& v) const;
     ZCoord operator-() const;
+    /// @}
 
+    /// The same in place; a reference to the point is returned.
+    /// @{
     ZCoord& operator+=(const ZCoord& p);
     ZCoord& operator+=(const ZVector<T>& v);
     ZCoord& operator-=(const ZCoord& p);
     ZCoord& operator-=(const ZVector<T>& v);
+    /// @}
 
+    /// Both coordinates times `s`, or over `d`, truncated. Over 0 a coordinate other than 0
+    /// becomes the least or the greatest, and 0 stays 0.
+    /// @{
     ZCoord operator*(const double& s) const;
     ZCoord operator/(const double& d) const;
+    /// @}
 
     /// 1 if both coordinates are exactly equal, else 0.
     int operator==(const ZCoord& p) const;
-    int operator!=(const ZCoord& p) const;
+    int operator!=(const ZCoord& p) const; ///< 1 where == gives 0, else 0
 
+    /// 1 if it holds in x and in y, else 0.
+    ///
     /// Kept as is: dominance, not an order. Each holds when it holds for x and for
     /// y, so that two points can be neither less, equal nor greater. Do not sort by it.
+    /// @{
     int operator<(const ZCoord& p) const;
     int operator<=(const ZCoord& p) const;
     int operator>(const ZCoord& p) const;
     int operator>=(const ZCoord& p) const;
+    /// @}
 
+    /// The length of the straight way to `p`, its square, and the sum of the sizes of the
+    /// differences in x and in y. Nothing wraps or is truncated.
+    /// @{
     double distance(const ZCoord& p) const;
     double squaredDistance(const ZCoord& p) const;
     double manhattanDistance(const ZCoord& p) const;
+    /// @}
 
     /// Adds (dx, dy) in place and wraps, although an IPoint is moved by doubles.
     ZCoord& translate(T dx, T dy);
 
+    /// Multiplies x by `sx` and y by `sy` in place and truncates the products.
     ZCoord& scale(double sx, double sy);
 
     /// scale() with the products rounded, halves away from zero.
     ZCoord& roundScale(double sx, double sy);
 
+    /// Turns the point by `degrees` about `centre`.
+    ///
     /// Kept as is: truncates the result toward zero, although roundScale() and
     /// matrixRot() round, and with the short pi of DPoint::rotate: (10, 0) turned by
     /// 90 about the origin is (0, 9).
@@ -73,6 +105,8 @@ public:
     /// Rounds the result, halves away from zero.
     ZCoord& matrixRot(const double m[2][3], double z);
 
+    /// Reflects the point about the line through `a` and `b`; about the horizontal through
+    /// `a` where they are equal. The result is truncated.
     ZCoord& mirror(const ZCoord& a, const ZCoord& b);
 };
 

@@ -16,47 +16,79 @@ public:
 
     /// Both coordinates `v`.
     ZTPoint(const T& v);
-    ZTPoint(const T& x, const T& y);
+    ZTPoint(const T& x, const T& y); ///< the point (x, y)
+
+    /// Both coordinates, as they are.
+    /// @{
     ZTPoint(const ZTPoint&) = default;
     ZTPoint& operator=(const ZTPoint&) = default;
+    /// @}
+
+    /// Virtual: a point made as a derived class may be deleted as this one.
     virtual ~ZTPoint();
 
+    /// A coordinate, to read or to write.
+    /// @{
     T& xVal();
     T& yVal();
     const T& xVal() const;
     const T& yVal() const;
+    /// @}
+
+    /// Sets a coordinate.
+    /// @{
     void setX(const T& x);
     void setY(const T& y);
+    /// @}
 
+    /// Coordinate by coordinate.
+    /// @{
     ZTPoint operator+(const ZTPoint& p) const;
     ZTPoint operator-(const ZTPoint& p) const;
     ZTPoint operator-() const;
+    /// @}
 
-    /// Coordinate by coordinate.
+    /// Coordinate by coordinate: (x * p.x, y * p.y) and (x / p.x, y / p.y).
+    /// @{
     ZTPoint operator*(const ZTPoint& p) const;
     ZTPoint operator/(const ZTPoint& p) const;
+    /// @}
 
+    /// Both coordinates times `s`, or over `d`.
+    /// @{
     ZTPoint operator*(const T& s) const;
     ZTPoint operator/(const T& d) const;
+    /// @}
 
+    /// Adds or subtracts in place, coordinate by coordinate. Returns nothing, so that these
+    /// cannot be chained.
+    /// @{
     void operator+=(const ZTPoint& p);
     void operator-=(const ZTPoint& p);
+    /// @}
 
     /// 1 if both coordinates are equal, else 0; never with NaN.
     ///
     /// Kept as is: exact, although DPoint allows 1e-11.
     int operator==(const ZTPoint& p) const;
-    int operator!=(const ZTPoint& p) const;
+    int operator!=(const ZTPoint& p) const; ///< 1 where == gives 0, else 0
 
+    /// 1 if it holds in x and in y, else 0.
+    ///
     /// Kept as is: dominance, not an order. Each holds when it holds for x and for
     /// y, so that two points can be neither less, equal nor greater. Do not sort by it.
+    /// @{
     int operator<(const ZTPoint& p) const;
     int operator<=(const ZTPoint& p) const;
     int operator>(const ZTPoint& p) const;
     int operator>=(const ZTPoint& p) const;
+    /// @}
 
+    /// The coordinates, in a unit of the host's choice.
+    /// @{
     T x;
     T y;
+    /// @}
 };
 
 template <class T>

@@ -13,42 +13,64 @@
 template <class T>
 class ZVector {
 public:
+    /// The components, in a unit of the host's choice.
+    /// @{
     T x;
     T y;
+    /// @}
 
     /// The zero vector.
     ZVector();
-    ZVector(const T& x, const T& y);
+    ZVector(const T& x, const T& y); ///< the way from (0, 0) to (x, y)
+
+    /// Both components, as they are.
+    /// @{
     ZVector(const ZVector&) = default;
     ZVector& operator=(const ZVector&) = default;
+    /// @}
 
+    /// A component, to read or to write.
+    /// @{
     T& xval();
     T& yval();
     T xval() const;
     T yval() const;
+    /// @}
 
+    /// Component by component; each wraps.
+    /// @{
     ZVector operator+(const ZVector& v) const;
     ZVector operator-(const ZVector& v) const;
     ZVector operator-() const;
-    ZVector& operator+=(const ZVector& v);
+    /// @}
 
-    ZVector operator*(const double& s) const;
+    ZVector& operator+=(const ZVector& v); ///< adds in place and wraps
 
+    ZVector operator*(const double& s) const; ///< both components times `s`, truncated
+
+    /// x * v.x + y * v.y.
+    ///
     /// Kept as is: the dot product, wrapped into T: (200, 200) by itself gives 14464.
     /// projectOn(), projectOnUnit() and isSameSense() use the exact one.
     T operator*(const ZVector& v) const;
 
     /// 1 if both components are exactly equal, else 0.
     int operator==(const ZVector& v) const;
-    int operator!=(const ZVector& v) const;
+    int operator!=(const ZVector& v) const; ///< 1 where == gives 0, else 0
 
+    /// 1 if it holds of the lengths, else 0.
+    ///
     /// Kept as is: compares the lengths, so that two vectors can be neither less
     /// nor greater without being equal. Points compare by coordinate.
+    /// @{
     int operator<(const ZVector& v) const;
     int operator>(const ZVector& v) const;
+    /// @}
 
-    double length() const;
-    double squaredLength() const;
+    double length() const;        ///< the root of squaredLength()
+    double squaredLength() const; ///< x * x + y * y, which does not wrap
+
+    /// x * v.y - y * v.x, which does not wrap: above 0 if `v` points to the left.
     double cross(const ZVector& v) const;
 
     /// The zero vector unchanged; otherwise components of -1, 0 and 1.
@@ -57,15 +79,28 @@ public:
     /// (3, 4) gives (0, 0), and so does (49, 0), as 49 * (1.0 / 49) is below 1.
     ZVector normalize() const;
 
+    /// (-y * s, x * s), wrapped: a quarter turn to the left for s = 1, to the right for -1.
     ZVector ortho(int s) const;
+
+    /// The part of this vector along `v`, truncated; `v` itself if it is zero.
     ZVector projectOn(const ZVector& v) const;
+
+    /// projectOn() for a `unit` of length 1, which is not checked. Only the four axes have
+    /// one.
     ZVector projectOnUnit(const ZVector& unit) const;
 
+    /// This vector reflected about the direction `v`; its negative if `v` is zero.
+    ///
     /// Kept as is: the projection is truncated before it is doubled.
     ZVector mirror(const ZVector& v) const;
 
-    ZVector& reverse();
+    ZVector& reverse(); ///< negates both components in place; the least value stays
+
+    /// Multiplies x by `sx` and y by `sy` in place and truncates the products.
     ZVector& scale(double sx, double sy);
+
+    /// 1 if `v` points to the same side as this vector, else 0, by the rule of
+    /// DVector::isSameSense(), from the exact products.
     int isSameSense(const ZVector& v) const;
 };
 

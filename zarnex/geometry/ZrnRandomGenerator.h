@@ -14,8 +14,14 @@ public:
     ///
     /// Only the low 32 bits of `n` count, as a signed number. Takes no longer for a great `n`.
     ZrnRandomGenerator(long n);
+
+    /// A copy goes on with the same numbers, apart from the original.
+    /// @{
     ZrnRandomGenerator(const ZrnRandomGenerator&) = default;
     ZrnRandomGenerator& operator=(const ZrnRandomGenerator&) = default;
+    /// @}
+
+    /// Releases nothing: the state is in the object.
     ~ZrnRandomGenerator();
 
     /// The next number, from 1 / 524288 to 524283 / 524288.
@@ -35,6 +41,7 @@ private:
 ///
 /// May be called from several threads at a time. There is no lock: they take their numbers
 /// interleaved, and some numbers may be taken twice.
+/// @relates ZrnRandomGenerator
 ZARNEX_API float zrnrandom();
 
 ZARNEX_INLINE ZrnRandomGenerator::~ZrnRandomGenerator() {}

@@ -20,9 +20,12 @@ public:
     /// The state, and which word is handed out next. An index of 624 has all words
     /// regenerated before; 625, set by a host, has the object seeded with 4357 before
     /// that. Any other index out of range counts as 624.
+    /// @{
     unsigned int word[624];
     int index;
+    /// @}
 
+    /// Starts the sequence of `seed`, as randseed() does.
     ZrnRandomGenerator2(long seed);
 
     /// Starts the sequence of `seed`, of which the low 32 bits count.

@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// Angles of directions and at corners.
 
 #include <zarnex/config.h>
@@ -26,14 +27,18 @@ ZARNEX_API double atan3(double y, double x);
 /// Kept as is: a difference of two directions outside (-3.141592654, 3.141592654] is
 /// brought back by 6.283185308, full turns of a short pi, so that an angle over such a
 /// step is 7e-10 off: (1, 0), (0, 0), (0, 1) has -3 pi / 2 + 6.283185308.
+/// @{
 ZARNEX_API double angleRad(const DPoint& a, const DPoint& b, const DPoint& c);
 ZARNEX_API double angleRad(const IPoint& a, const IPoint& b, const IPoint& c);
 ZARNEX_API double angleRad(const ZCoord<short>& a, const ZCoord<short>& b, const ZCoord<short>& c);
+/// @}
 
 /// angleRad() in degrees.
 ///
 /// Kept as is: divides by 3.141592654 / 180, so that a straight line has an angle
 /// slightly below 180; rotate() of the points has the shorter pi 3.1415926.
+/// @{
 ZARNEX_API double angle(const DPoint& a, const DPoint& b, const DPoint& c);
 ZARNEX_API double angle(const IPoint& a, const IPoint& b, const IPoint& c);
 ZARNEX_API double angle(const ZCoord<short>& a, const ZCoord<short>& b, const ZCoord<short>& c);
+/// @}

@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// Points between points.
 
 #include <zarnex/config.h>
@@ -12,6 +13,8 @@ ZARNEX_API DPoint midpoint(const DPoint& a, const DPoint& b);
 /// point of the line ab they must sum to 1.
 ZARNEX_API DPoint weightedSum(const DPoint& a, double wa, const DPoint& b, double wb);
 
+/// Moves both points to the one half way between them.
+///
 /// Kept as is: overwrites both arguments with the average of the two, although
 /// midpoint() returns it.
 ZARNEX_API void pointsAverage(DPoint& a, DPoint& b);

@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// The centre of the circle through three points.
 
 #include <zarnex/config.h>

@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// The real roots of cubic equations.
 
 #include <zarnex/config.h>

@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// The formulas that points and vectors share; for the bodies of their members.
 ///
 /// A formula takes the coordinates widened to doubles, which is exact for the

@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// The line that fits a list of points best.
 
 #include <zarnex/config.h>

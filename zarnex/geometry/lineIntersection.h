@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// Where two lines or two segments meet.
 ///
 /// Each `out` is written on success only, and may be one of the other arguments.
@@ -35,10 +36,12 @@ ZARNEX_API int intersect(DPoint& out, const DPoint& p, const DVector& u, const D
 
 /// The same for the line through `a` and `b` and the line through `c` and `d`: with the
 /// directions b - a and d - c. The pointer form gives 1 if `out` is null.
+/// @{
 ZARNEX_API int intersect(DPoint& out, const DPoint& a, const DPoint& b, const DPoint& c,
                          const DPoint& d);
 ZARNEX_API int intersect(DPoint* out, const DPoint& a, const DPoint& b, const DPoint& c,
                          const DPoint& d);
+/// @}
 
 /// The same for integer points: computed in doubles, then rounded to the nearest point of
 /// the grid, halves away from zero. The directions b - a and d - c do not wrap.
@@ -47,12 +50,14 @@ ZARNEX_API int intersect(DPoint* out, const DPoint& a, const DPoint& b, const DP
 ///
 /// Kept as is: parallel lines are found by their infinite coordinates alone, not by the
 /// tolerance of the double form.
+/// @{
 ZARNEX_API int intersect(IPoint& out, const IPoint& p, const IVector& u, const IPoint& q,
                          const IVector& v);
 ZARNEX_API int intersect(IPoint& out, const IPoint& a, const IPoint& b, const IPoint& c,
                          const IPoint& d);
 ZARNEX_API int intersect(IPoint* out, const IPoint& a, const IPoint& b, const IPoint& c,
                          const IPoint& d);
+/// @}
 
 /// 1 if the segments ab and cd meet, ends included; 0 if not and for parallel segments,
 /// even where they overlap, and with a NaN.

@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// Whether segments are collinear or parallel, and where a point lies on a segment.
 ///
 /// No function changes what its arguments point to.

@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// Cross products, turns and the winding of outlines, with y growing upward.
 
 #include <zarnex/config.h>
@@ -12,8 +13,10 @@
 /// (a.x - b.x) * (c.y - d.y) - (c.x - d.x) * (a.y - b.y).
 ///
 /// The pointer form gives 0 if a pointer is null.
+/// @{
 ZARNEX_API double crossProd(const DPoint& a, const DPoint& b, const DPoint& c, const DPoint& d);
 ZARNEX_API double crossProduct(const DPoint* a, const DPoint* b, const DPoint* c, const DPoint* d);
+/// @}
 
 /// The same for integer points.
 ///

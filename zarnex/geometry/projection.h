@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// Feet, nearest points and distances on a line or a segment through two points.
 ///
 /// A line ab is infinite, a segment ab ends at `a` and `b`. Overflow and NaN follow IEEE
@@ -35,12 +36,16 @@ ZARNEX_API int projectPointOntoLineSegment(DPoint& out, const DPoint& p, const D
 ZARNEX_API DPoint closestToLineSegment(const DPoint& a, const DPoint& b, const DPoint& p);
 
 /// The distance from `p` to closestToLineSegment(), and its square.
+/// @{
 ZARNEX_API double distanceToLineSegment(const DPoint& a, const DPoint& b, const DPoint& p);
 ZARNEX_API double squaredDistanceToLineSegment(const DPoint& a, const DPoint& b, const DPoint& p);
+/// @}
 
 /// The distance from `p` to the line ab, and its square; to `a` if a == b.
+/// @{
 ZARNEX_API double distanceToVector(const DPoint& a, const DPoint& b, const DPoint& p);
 ZARNEX_API double squaredDistanceToVector(const DPoint& a, const DPoint& b, const DPoint& p);
+/// @}
 
 namespace zarnex::detail {
 

@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// The real roots of quadratic equations.
 ///
 /// Both solvers write only as many roots as they count, and none through a null pointer.

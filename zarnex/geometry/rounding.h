@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// Doubles to integers: without the fraction, and to the nearest.
 ///
 /// No argument is out of contract: an int result that does not fit is the nearest int,

@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// The points of a segment that lie at a given distance.
 
 #include <zarnex/config.h>

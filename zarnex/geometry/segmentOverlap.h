@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// The part that two segments on one line have in common.
 
 #include <zarnex/config.h>

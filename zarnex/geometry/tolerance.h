@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// Comparisons within a tolerance.
 ///
 /// Every function returns 1 or 0. A comparison with a NaN gives 0 unless said, as does a
@@ -21,8 +22,10 @@
 #include <type_traits>
 
 /// 1 if a = b.
+/// @{
 ZARNEX_API int IS_EQUAL(int a, int b);
 ZARNEX_API int IS_EQUAL(long a, long b);
+/// @}
 
 /// 1 if -tol <= a - b <= tol.
 ZARNEX_API int IS_EQUAL(double a, double b, double tol = 1e-9);
@@ -46,13 +49,17 @@ int IS_ZERO(A a);
 
 /// 1 if |a.x - b.x| <= tol and |a.y - b.y| <= tol; for ZCoord in integers, which
 /// cannot overflow, and exactly where the caller names no tolerance.
+/// @{
 ZARNEX_API int isEqual(const ZCoord<short>& a, const ZCoord<short>& b, int tol = 0);
 ZARNEX_API int isEqual(const DPoint& a, const DPoint& b, double tol = 1e-9);
 ZARNEX_API int isEqual(const DVector& a, const DVector& b, double tol = 1e-9);
+/// @}
 
 /// 1 if both coordinates are exactly equal.
+/// @{
 ZARNEX_API int isEqual(const IPoint& a, const IPoint& b);
 ZARNEX_API int isEqual(const IVector& a, const IVector& b);
+/// @}
 
 /// 0 if (p.x - x1) * (p.x - x2) > tol or (p.y - y1) * (p.y - y2) > tol, else 1; so 1
 /// in and on the box between two opposite corners, given in either order, and for NaN.

@@ -34,8 +34,10 @@ public:
     ZGUIDWrapper(Integer create) : ZGUIDWrapper(static_cast<int>(create)) {}
 
     /// A valid object with that GUID.
+    /// @{
     ZGUIDWrapper(GUID& guid);
     ZGUIDWrapper(const GUID& guid);
+    /// @}
 
     /// Reads `text` as setString() does.
     ///
@@ -54,6 +56,7 @@ public:
     /// the old GUID valid again.
     ZGUIDWrapper& operator=(const ZGUIDWrapper& other);
 
+    /// Frees the text, and with it what getString() referred to.
     ~ZGUIDWrapper();
 
     /// Reads the text form, in either case, and refreshes the text. Every other text,
@@ -80,7 +83,7 @@ public:
 
     /// 1 if both are invalid, whatever they hold, or both valid with the same GUID.
     int operator==(const ZGUIDWrapper& other) const;
-    int operator!=(const ZGUIDWrapper& other) const;
+    int operator!=(const ZGUIDWrapper& other) const; ///< 1 where == gives 0, else 0
 
     /// 1 if this object is invalid and `other` is not, or both are valid and any field
     /// of this GUID (Data1, Data2, Data3 and each byte of Data4, all unsigned) is
@@ -93,20 +96,27 @@ public:
     /// other < *this. Both can hold at once.
     int operator>(const ZGUIDWrapper& other) const;
 
-    // ---- The built-in shapes. Each setter makes the object valid; each test gives 1
-    // for a valid object with that shape's GUID.
+    /// @name The built-in shapes
+    /// @{
 
+    /// Takes the GUID of that shape and makes the object valid.
     void setBlank();
     void setBead1();
     void setBead2();
     void setSequin1();
     void setSequin2();
-    void setSequin1_2(); ///< sequin 1, then 2
-    void setSequin2_1(); ///< sequin 2, then 1
+    void setSequin1_2(); ///< takes the GUID of sequin 1, then 2, and makes the object valid
+    void setSequin2_1(); ///< takes the GUID of sequin 2, then 1, and makes the object valid
     void setRound();
     void setCircle();
     void setCircleShape();
 
+    /// @}
+
+    /// @name Tests of the built-in shapes
+    /// @{
+
+    /// 1 for a valid object with the GUID of that shape, else 0.
     int isBlank() const;
     int isBead1() const;
     int isBead2() const;
@@ -117,6 +127,7 @@ public:
     int isRound() const;
     int isCircle() const;
     int isCircleShape() const;
+    /// @}
 
 protected:
     /// 1 if all 128 bits are equal, whatever the flag.

@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// ZRefCount, and the lock that guards all counts.
+
 #include <zarnex/config.h>
 
 /// Counts the references to a shared object.
@@ -22,22 +25,26 @@ public:
     /// Frees nothing.
     ~ZRefCount();
 
-    ZRefCount& operator++();
+    ZRefCount& operator++(); ///< counts one up, without a check of the range
 
     /// Counts one down and returns the new count. Below 0 it wraps to 4294967295.
     unsigned int decrement();
 
-    unsigned int value();
+    unsigned int value(); ///< the count
 
+    /// The shared object.
+    /// @{
     void* pointer();
     void* pointer() const;
+    /// @}
 
 private:
     void* pointer_;
     unsigned int count_;
 };
 
-/// Takes the one process-wide lock that guards all reference counts.
+/// Takes the one process-wide lock that guards all reference counts; blocks until it is free.
+/// The thread that holds it may take it again.
 ZARNEX_API void lockRefCount();
 
 /// Releases what lockRefCount() took.

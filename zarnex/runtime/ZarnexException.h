@@ -21,8 +21,10 @@ public:
     ZarnexException();
 
     /// "No Exception Message Set" with a code and a source.
+    /// @{
     ZarnexException(long code, void* source);
     ZarnexException(int code, void* source); // or 0 would be a message too
+    /// @}
 
     /// An empty or null `message` becomes "No Exception Message Set". `code` is kept in 32 bits.
     /// `source` is not owned.
@@ -31,9 +33,13 @@ public:
     /// The same with code -1.
     ZarnexException(const char* message, void* source);
 
+    /// Message, code and source, as the virtual members of `other` answer.
+    /// @{
     ZarnexException(const ZarnexException& other);
     ZarnexException& operator=(const ZarnexException& other);
+    /// @}
 
+    /// Frees the message, not the source.
     ~ZarnexException() override;
 
     /// The message, valid as long as the exception lives.

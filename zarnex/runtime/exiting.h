@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// The flag that tells that the process is going down.
+
 #include <zarnex/config.h>
 
 /// 1 once setExiting() has been called, 0 before.

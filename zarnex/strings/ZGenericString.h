@@ -15,12 +15,16 @@
 ///     logText(label);                // logText(const char*)
 class ZARNEX_API ZARNEX_WIDE ZGenericString {
 public:
+    /// Holds a copy of `text`.
+    /// @{
     ZGenericString(const ZString& text);
     ZGenericString(const char* text);
+    /// @}
 
     /// As much of `text` as fits `n` bytes with a terminator.
     ZGenericString(const char* text, int n);
 
+    /// Holds a copy of `text`.
     ZGenericString(const wchar_t* text);
 
     /// As much of `text` as fits `n` units with a terminator.
@@ -37,8 +41,10 @@ public:
 
     /// The text in the one form or the other, always the same buffer. Null if there is
     /// none; empty if it cannot be converted.
+    /// @{
     operator wchar_t*();
     operator char*();
+    /// @}
 
 protected:
     /// Frees both forms and sets them to null.

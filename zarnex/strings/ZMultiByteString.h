@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// ZMultiByteString, and its comparisons with plain text.
+
 #include <zarnex/config.h>
 #include <zarnex/containers/ZXArray.h>
 
@@ -31,7 +34,10 @@ struct TextAccess;
 ///     name.startsWith("stick", 1)        // 1
 class ZARNEX_API ZMultiByteString {
 public:
+    /// The empty text, in one slot.
     ZMultiByteString();
+
+    /// A copy of `text`.
     ZMultiByteString(const char* text);
 
     /// The first `n` bytes of `text`, fewer if it is shorter, in `n` + 1 slots.
@@ -51,12 +57,18 @@ public:
 
     /// The same; `other` may lose its text.
     ZMultiByteString& operator=(ZMultiByteString&& other) noexcept;
+
+    /// Takes `text`.
     ZMultiByteString& operator=(const char* text);
 
+    /// Frees the buffer.
     ~ZMultiByteString();
 
-    // ---- Comparison, by bytes from 0 to 255
+    /// @name Comparison
+    /// By the values of the bytes, 0 to 255; in an order, A to Z count as a to z.
+    /// @{
 
+    /// 1 if it holds, else 0.
     int operator==(const ZMultiByteString& other) const;
     int operator==(const char* other) const;
     int operator!=(const ZMultiByteString& other) const;
@@ -73,8 +85,10 @@ public:
     /// 1 if the text begins with `text`, also an empty one; 0 for null. With
     /// `ignoreCase`, A to Z count as a to z.
     int startsWith(const char* text, int ignoreCase) const;
+    /// @}
 
-    // ---- Access
+    /// @name Access
+    /// @{
 
     /// Byte `i`. Past the slots in use they grow, without a new terminator.
     ///
@@ -89,14 +103,17 @@ public:
     char& operator[](Index i) {
         return (*this)[static_cast<int>(i)];
     }
+
+    /// The same without growing.
     template <class Index, std::enable_if_t<std::is_integral_v<Index>, int> = 0>
     const char& operator[](Index i) const {
         return array_.get(static_cast<int>(i));
     }
 
+    /// The text, valid until the string changes. Never null.
     operator const char*() const;
 
-    int length() const;
+    int length() const; ///< bytes, without the terminator; measured
 
     /// The slots in use.
     ///
@@ -106,10 +123,13 @@ public:
     /// `count` bytes from `start`, fewer at the end of the text. A negative `start`
     /// counts from the end, a negative `count` means all that follow.
     ZMultiByteString subString(int start, int count);
-    ZMultiByteString subString(int start, int count) const;
+    ZMultiByteString subString(int start, int count) const; ///< the same
+    /// @}
 
-    // ---- Editing
+    /// @name Editing
+    /// @{
 
+    /// Appends in place and returns the string.
     ZMultiByteString& operator+=(const ZMultiByteString& text);
     ZMultiByteString& operator+=(const char* text);
 
@@ -120,8 +140,8 @@ public:
     /// keeps it.
     void resize(int n);
 
-    /// Sets the text by a printf format, by the rules of ZString::set(), except that `%s`
-    /// takes narrow text and `%S` and `%ls` wide; null changes nothing.
+    /// Sets the text by a printf format, by the rules of ZString::set(), except that "%s"
+    /// takes narrow text and "%S" and "%ls" wide; null changes nothing.
     void set(const char* format, ...);
 
     /// Not for objects, which no conversion reads: pass a string as
@@ -129,6 +149,7 @@ public:
     template <class... Arguments,
               std::enable_if_t<(std::is_class_v<std::decay_t<Arguments>> || ...), int> = 0>
     void set(const char* format, const Arguments&... arguments) = delete;
+    /// @}
 
 private:
     friend struct zarnex::detail::TextAccess;
@@ -137,14 +158,16 @@ private:
     ZXArray<char> array_;
 };
 
-// Plain text on the left. Without these the string would convert to a pointer, and
-// addresses would be compared.
+/// Plain text on the left. Without these the string would convert to a pointer, and
+/// addresses would be compared.
+/// @{
 ZARNEX_API int operator==(const char* a, const ZMultiByteString& b);
 ZARNEX_API int operator!=(const char* a, const ZMultiByteString& b);
 ZARNEX_API int operator<(const char* a, const ZMultiByteString& b);
 ZARNEX_API int operator>(const char* a, const ZMultiByteString& b);
 ZARNEX_API int operator<=(const char* a, const ZMultiByteString& b);
 ZARNEX_API int operator>=(const char* a, const ZMultiByteString& b);
+/// @}
 
 ZARNEX_INLINE const char& ZMultiByteString::operator[](int i) const {
     return array_.get(i);

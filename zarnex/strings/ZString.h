@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// ZString, and its comparisons with plain text.
+
 #include <zarnex/config.h>
 #include <zarnex/containers/ZList.h>
 #include <zarnex/containers/ZXArray.h>
@@ -42,12 +45,14 @@ inline constexpr int growthStep = 32;
 ///     label == L"STITCH LENGTH: 42"  // 1
 class ZARNEX_API ZARNEX_WIDE ZString {
 public:
+    /// The empty text, in one slot.
     ZString();
 
     /// Empty, in an array of exactly `n` + 1 slots with the growth step `step`;
     /// a step below 1 lets the array double.
     ZString(int n, int step);
 
+    /// A copy of `text`.
     ZString(const wchar_t* text);
 
     /// The first `n` units of `text`, fewer if it is shorter, in `n` + 1 slots.
@@ -77,14 +82,21 @@ public:
 
     /// The same; `other` may lose its text.
     ZString& operator=(ZString&& other) noexcept;
+
+    /// Takes the text, converted as by the constructors. The growth step stays.
+    /// @{
     ZString& operator=(const wchar_t* text);
     ZString& operator=(const char* text);
     ZString& operator=(ZGenericString& text);
+    /// @}
 
+    /// Frees the buffer.
     ~ZString();
 
-    // ---- Raw access
+    /// @name Raw access
+    /// @{
 
+    /// The text, valid until the string changes. Never null.
     operator const wchar_t*() const;
 
     /// For functions that write text into the string: room for at least 512
@@ -106,15 +118,20 @@ public:
     wchar_t& operator[](Index i) {
         return (*this)[static_cast<int>(i)];
     }
+
+    /// The same without growing.
     template <class Index, std::enable_if_t<std::is_integral_v<Index>, int> = 0>
     const wchar_t& operator[](Index i) const;
+    /// @}
 
-    // ---- Sizes, all measured
+    /// @name Sizes
+    /// All are measured but the slots in use, up to the terminator.
+    /// @{
 
-    int length() const;
-    int bufferSize() const; ///< length() + 1
-    unsigned long long characterLength() const;
-    int unicodeSize() const; ///< length() + 1
+    int length() const;                         ///< units, without the terminator
+    int bufferSize() const;                     ///< length() + 1
+    unsigned long long characterLength() const; ///< length(), not cut to an int
+    int unicodeSize() const;                    ///< length() + 1
 
     /// Bytes of the text in the system code page with terminator; -1 if it cannot
     /// be converted.
@@ -125,10 +142,13 @@ public:
     /// Kept as is: the size, although the name speaks of the allocation.
     int allocLength() const;
 
-    int isEmpty() const;
+    int isEmpty() const; ///< 1 without text, else 0
+    /// @}
 
-    // ---- Concatenation
+    /// @name Concatenation
+    /// @{
 
+    /// Appends in place and returns the string; a terminator appends nothing.
     ZString& operator+=(const ZString& text);
     ZString& operator+=(const wchar_t* text);
     ZString& operator+=(wchar_t unit);
@@ -136,11 +156,13 @@ public:
     /// Appends the decimal digits of `number`.
     ZString& operator+=(int number);
 
-    ZString operator+(const ZString& text) const;
-    ZString operator+(const wchar_t* text) const;
+    ZString operator+(const ZString& text) const; ///< a new string, this one and `text`
+    ZString operator+(const wchar_t* text) const; ///< a new string, this one and `text`
 
-    /// Kept as is: a character counts as a number here, so `text + L'A'` ends with
-    /// 65, although `text += L'A'` appends the letter. A narrow character counts as a
+    /// A new string: this one, then the decimal digits of `number`.
+    ///
+    /// Kept as is: a character counts as a number here, so ``text + L'A'`` ends with
+    /// 65, although ``text += L'A'`` appends the letter. A narrow character counts as a
     /// number in both.
     ZString operator+(int number) const;
 
@@ -155,6 +177,8 @@ public:
         else
             return appendNumber(static_cast<unsigned long long>(number));
     }
+
+    /// The same into a new string.
     template <class Number, std::enable_if_t<std::is_integral_v<Number> && sizeof(Number) >= 4 &&
                                                  !std::is_same_v<Number, wchar_t> &&
                                                  !std::is_same_v<Number, char32_t>,
@@ -176,6 +200,8 @@ public:
         const ZString text = std::forward<Object>(object);
         return *this += text;
     }
+
+    /// The same into a new string.
     template <class Object,
               std::enable_if_t<std::is_class_v<std::remove_reference_t<Object>> &&
                                    !std::is_base_of_v<ZString, std::decay_t<Object>> &&
@@ -190,10 +216,14 @@ public:
     /// Not for real numbers: how many decimals? Use set() or a quantity.
     template <class Real, std::enable_if_t<std::is_floating_point_v<Real>, int> = 0>
     ZString& operator+=(Real) = delete;
+
+    /// The same.
     template <class Real, std::enable_if_t<std::is_floating_point_v<Real>, int> = 0>
     ZString operator+(Real) const = delete;
+    /// @}
 
-    // ---- Comparison
+    /// @name Comparison
+    /// @{
 
     /// Equality without regard to case, by the current locale's lower case of
     /// each unit (in the default locale that of A to Z).
@@ -202,27 +232,29 @@ public:
     int operator!=(const ZString& other) const;
     int operator!=(const wchar_t* other) const;
 
-    /// Order of the lower-cased units.
-    int operator<(const ZString& other) const;
-    int operator>(const ZString& other) const;
-    int operator<=(const ZString& other) const;
-    int operator>=(const ZString& other) const;
+    int operator<(const ZString& other) const;  ///< by the order of the lower-cased units
+    int operator>(const ZString& other) const;  ///< by the order of the lower-cased units
+    int operator<=(const ZString& other) const; ///< by the order of the lower-cased units
+    int operator>=(const ZString& other) const; ///< by the order of the lower-cased units
 
     /// Below, at or above 0 as this text orders before, with or behind `other` by
     /// its lower-cased units.
     int compare(const ZString& other) const;
-    int compare(const wchar_t* other) const;
+    int compare(const wchar_t* other) const; ///< the same
 
     /// Equality unit by unit; 0 for null.
     int isEqual(const ZString& other) const;
-    int isEqual(const wchar_t* other) const;
+    int isEqual(const wchar_t* other) const; ///< the same
 
     /// A hash of the lower-cased text in 0 ... 2^28 - 1: equal for texts that `==`
     /// finds equal.
     /// Source: System V Application Binary Interface, chapter 5, "Hash Table".
     int hash() const;
+    /// @}
 
-    // ---- Searching. Positions count from 0, -1 means not found.
+    /// @name Searching
+    /// Positions count from 0, -1 means not found.
+    /// @{
 
     /// The first slot in use that holds `unit`, or the last one when `fromEnd` is
     /// not 0. Finds terminators too.
@@ -247,8 +279,10 @@ public:
 
     /// 1 if the text begins with `text`, also an empty one; 0 for null.
     int startsWith(const wchar_t* text, int ignoreCase = 0) const;
+    /// @}
 
-    // ---- Editing
+    /// @name Editing
+    /// @{
 
     /// Replaces every occurrence of `find`, from left to right, without searching
     /// what it put in. An empty or null `find` changes nothing. One pass, one result.
@@ -257,12 +291,12 @@ public:
     /// `count` units from `start`, fewer at the end of the text. A negative
     /// `start` counts from the end, a negative `count` means all that follow.
     ZString subString(int start, int count);
-    ZString subString(int start, int count) const;
+    ZString subString(int start, int count) const; ///< the same
 
     /// Sets the slots in use to `n` + 1 and terminates the last; negative is 0. Cuts
     /// the text, or leaves it as it is when it is shorter.
     void truncate(int n);
-    void resize(int n);
+    void resize(int n); ///< truncate()
 
     /// Measures again after a raw write: slots in use are the length + 1, and the
     /// allocation becomes that, rounded up to whole steps.
@@ -270,21 +304,19 @@ public:
 
     /// Removes the text and keeps the allocation.
     void empty();
-    void reset();
+    void reset(); ///< empty()
 
-    /// Remove blanks, tabs, line feeds and carriage returns at one end.
-    void trimLeft();
-    void trimRight();
+    void trimLeft();  ///< removes blanks, tabs, line feeds and carriage returns at the start
+    void trimRight(); ///< removes them at the end
 
-    /// Map the text by the current locale.
-    void toLower();
-    void toUpper();
+    void toLower(); ///< maps each unit to lower case, by the current locale
+    void toUpper(); ///< maps each unit to upper case, by the current locale
 
     /// Sets the text by a printf format; null changes nothing.
     ///
     /// Conversions d i u o x X c C s S p e E f F g G a A %, flags "-+ #0", width,
-    /// precision, '*', lengths h hh l ll j z t I I32 I64 L w. `%s` takes wide text, `%S` and
-    /// `%hs` narrow. The decimal sign is always a dot, on every platform and in
+    /// precision, '*', lengths h hh l ll j z t I I32 I64 L w. "%s" takes wide text, "%S" and
+    /// "%hs" narrow. The decimal sign is always a dot, on every platform and in
     /// every locale; infinities are "inf", no number is "nan". What is no
     /// conversion is copied. Arguments may point into the string.
     ///
@@ -297,13 +329,17 @@ public:
     template <class... Arguments,
               std::enable_if_t<(std::is_class_v<std::decay_t<Arguments>> || ...), int> = 0>
     void set(const wchar_t* format, const Arguments&... arguments) = delete;
+    /// @}
 
-    // ---- Export
+    /// @name Export
+    /// @{
 
-    /// The text in the system code page, or as it is. The caller frees it with
-    /// `delete[]`. Null without memory or if the text cannot be converted.
+    /// A copy of the text in the system code page. The caller frees it with `delete[]`. Null
+    /// without memory or if the text cannot be converted.
     char* getAscii() const;
-    char* getAnsi() const;
+    char* getAnsi() const; ///< getAscii()
+
+    /// A copy of the text as it is. The caller frees it with `delete[]`. Null without memory.
     wchar_t* getWide() const;
 
     /// Converts into `out` and returns the units written, -1 if they did not fit
@@ -316,6 +352,7 @@ public:
 
     /// Writes each unit as a decimal number, without separators: "AB" is 6566.
     void dump(std::ostream& out) const;
+    /// @}
 
 private:
     friend struct zarnex::detail::TextAccess;
@@ -375,9 +412,9 @@ using IfText = std::enable_if_t<std::is_pointer_v<std::decay_t<Text>> &&
 
 } // namespace zarnex::detail
 
-// Comparison with plain text on either side, as with a ZString of it. Without these
-// the string would convert to a pointer, and addresses would be compared.
-
+/// Comparison with plain text on either side, as with a ZString of it. Without these
+/// the string would convert to a pointer, and addresses would be compared.
+/// @{
 template <class Text, zarnex::detail::IfText<Text> = 0>
 int operator==(const ZString& a, const Text& b) {
     return a.compare(b) == 0;
@@ -435,6 +472,7 @@ int operator>=(const Text& a, const ZString& b) {
 // In C++20 the members with their operands exchanged would be taken before the above.
 ZARNEX_API int operator==(const wchar_t* a, const ZString& b);
 ZARNEX_API int operator!=(const wchar_t* a, const ZString& b);
+/// @}
 
 /// Text in front of a string.
 ZARNEX_API ZString operator+(const wchar_t* a, const ZString& b);
@@ -450,6 +488,8 @@ std::basic_ostream<wchar_t, Traits>& operator<<(std::basic_ostream<wchar_t, Trai
     return out << static_cast<const wchar_t*>(text);
 }
 
+/// The text as numbers, to narrow streams.
+///
 /// Kept as is: dump(), that is decimal numbers and no text, although wide streams get
 /// the text.
 ZARNEX_API std::ostream& operator<<(std::ostream& out, const ZString& text);

@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// ZWideString, and its comparisons with plain text.
+
 #include <zarnex/config.h>
 #include <zarnex/containers/ZXArray.h>
 
@@ -30,7 +33,10 @@ struct TextAccess;
 ///     file.startsWith(L"MOTIF", 1)       // 1
 class ZARNEX_API ZARNEX_WIDE ZWideString {
 public:
+    /// The empty text, in one slot.
     ZWideString();
+
+    /// A copy of `text`.
     ZWideString(const wchar_t* text);
 
     /// The first `n` units of `text`, fewer if it is shorter, in `n` + 1 slots.
@@ -43,6 +49,7 @@ public:
     /// Converts from the system code page and cuts at `n` units, in `n` + 1 slots.
     ZWideString(const char* text, int n);
 
+    /// The text of `text`.
     ZWideString(const ZString& text);
 
     /// Copies the whole array: slots in use, allocation, step and contents.
@@ -56,14 +63,22 @@ public:
 
     /// The same; `other` may lose its text.
     ZWideString& operator=(ZWideString&& other) noexcept;
+
+    /// Takes the text, converted as by the constructors.
+    /// @{
     ZWideString& operator=(const wchar_t* text);
     ZWideString& operator=(const char* text);
     ZWideString& operator=(const ZString& text);
+    /// @}
 
+    /// Frees the buffer.
     ~ZWideString();
 
-    // ---- Comparison
+    /// @name Comparison
+    /// By the values of the units.
+    /// @{
 
+    /// 1 if it holds, else 0.
     int operator==(const ZWideString& other) const;
     int operator==(const wchar_t* other) const;
     int operator!=(const ZWideString& other) const;
@@ -80,8 +95,10 @@ public:
     /// 1 if the text begins with `text`, also an empty one; 0 for null. With
     /// `ignoreCase`, units that the current locale maps to one lower case count as one.
     int startsWith(const wchar_t* text, int ignoreCase) const;
+    /// @}
 
-    // ---- Access
+    /// @name Access
+    /// @{
 
     /// Unit `i`. Past the slots in use they grow, without a new terminator.
     ///
@@ -96,14 +113,17 @@ public:
     wchar_t& operator[](Index i) {
         return (*this)[static_cast<int>(i)];
     }
+
+    /// The same without growing.
     template <class Index, std::enable_if_t<std::is_integral_v<Index>, int> = 0>
     const wchar_t& operator[](Index i) const {
         return array_.get(static_cast<int>(i));
     }
 
+    /// The text, valid until the string changes. Never null.
     operator const wchar_t*() const;
 
-    int length() const;
+    int length() const; ///< units, without the terminator; measured
 
     /// The slots in use.
     ///
@@ -113,10 +133,13 @@ public:
     /// `count` units from `start`, fewer at the end of the text. A negative `start`
     /// counts from the end, a negative `count` means all that follow.
     ZWideString subString(int start, int count);
-    ZWideString subString(int start, int count) const;
+    ZWideString subString(int start, int count) const; ///< the same
+    /// @}
 
-    // ---- Editing
+    /// @name Editing
+    /// @{
 
+    /// Appends in place and returns the string.
     ZWideString& operator+=(const ZWideString& text);
     ZWideString& operator+=(const wchar_t* text);
     ZWideString& operator+=(const ZString& text);
@@ -137,6 +160,7 @@ public:
     template <class... Arguments,
               std::enable_if_t<(std::is_class_v<std::decay_t<Arguments>> || ...), int> = 0>
     void set(const wchar_t* format, const Arguments&... arguments) = delete;
+    /// @}
 
 private:
     friend struct zarnex::detail::TextAccess;
@@ -145,20 +169,24 @@ private:
     ZXArray<wchar_t> array_;
 };
 
-// Plain text on the left. Without these the string would convert to a pointer, and
-// addresses would be compared.
+/// Plain text on the left. Without these the string would convert to a pointer, and
+/// addresses would be compared.
+/// @{
 ZARNEX_API int operator==(const wchar_t* a, const ZWideString& b);
 ZARNEX_API int operator!=(const wchar_t* a, const ZWideString& b);
 ZARNEX_API int operator<(const wchar_t* a, const ZWideString& b);
 ZARNEX_API int operator>(const wchar_t* a, const ZWideString& b);
 ZARNEX_API int operator<=(const wchar_t* a, const ZWideString& b);
 ZARNEX_API int operator>=(const wchar_t* a, const ZWideString& b);
+/// @}
 
-// The rules of the two classes differ: say which is meant by converting one side.
+/// The rules of the two classes differ: say which is meant by converting one side.
+/// @{
 int operator<(const ZString& a, const ZWideString& b) = delete;
 int operator>(const ZString& a, const ZWideString& b) = delete;
 int operator<=(const ZString& a, const ZWideString& b) = delete;
 int operator>=(const ZString& a, const ZWideString& b) = delete;
+/// @}
 
 ZARNEX_INLINE const wchar_t& ZWideString::operator[](int i) const {
     return array_.get(i);

@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// Conversions between wide text and 8-bit text in a code page.
 ///
 /// Each function comes in two forms: one returns the result, the other assigns it to
@@ -37,8 +38,10 @@
 #include <zarnex/strings/ZString.h>
 #include <zarnex/strings/ZWideString.h>
 
-// ---- By code page
+/// @name By code page
+/// @{
 
+/// From or to `codePage`; the system's own where none is named.
 ZARNEX_API ZWideString mbsToWide(const ZMultiByteString& text, unsigned int codePage = 0);
 ZARNEX_API void mbsToWide(const ZMultiByteString& text, ZWideString& out,
                           unsigned int codePage = 0);
@@ -53,9 +56,12 @@ ZARNEX_API void mbsToStr(const ZMultiByteString& text, ZString& out, unsigned in
 ZARNEX_API ZARNEX_WIDE ZMultiByteString strToMbs(const wchar_t* text, unsigned int codePage = 0);
 ZARNEX_API ZARNEX_WIDE void strToMbs(const wchar_t* text, ZMultiByteString& out,
                                      unsigned int codePage = 0);
+/// @}
 
-// ---- UTF-8
+/// @name UTF-8
+/// @{
 
+/// From or to UTF-8.
 ZARNEX_API ZWideString utf8ToWide(const ZMultiByteString& text);
 ZARNEX_API void utf8ToWide(const ZMultiByteString& text, ZWideString& out);
 
@@ -67,14 +73,18 @@ ZARNEX_API void utf8ToStr(const ZMultiByteString& text, ZString& out);
 
 ZARNEX_API ZMultiByteString strToUtf8(const ZString& text);
 ZARNEX_API void strToUtf8(const ZString& text, ZMultiByteString& out);
+/// @}
 
-// ---- Between the two wide classes: copies.
-//
-// Kept as is: the code page is ignored, although these stand in one line with functions
-// that convert.
+/// @name Between the two wide classes
+/// @{
 
+/// A copy of the text.
+///
+/// Kept as is: the code page is ignored, although these stand in one line with functions that
+/// convert.
 ZARNEX_API ZWideString strToWide(const wchar_t* text, unsigned int codePage = 0);
 ZARNEX_API void strToWide(const wchar_t* text, ZWideString& out, unsigned int codePage = 0);
 
 ZARNEX_API ZString wideToStr(const ZWideString& text, unsigned int codePage = 0);
 ZARNEX_API void wideToStr(const ZWideString& text, ZString& out, unsigned int codePage = 0);
+/// @}

@@ -1,5 +1,6 @@
 #pragma once
 
+/// @file
 /// Hashing policies for tables of strings and of integers.
 ///
 /// The three string functors are made alike; HashFunction1 and HashFunction2 reduce to the
@@ -34,7 +35,7 @@ private:
 /// Multiply and add: each code unit u takes h to 613h + u, from the length.
 class ZARNEX_API HashFunction2 {
 public:
-    HashFunction2(long size = 1073741827);
+    HashFunction2(long size = 1073741827); ///< as in HashFunction1
 
     /// Reduced as in HashFunction1.
     long operator()(const ZString& text) const;
@@ -47,7 +48,7 @@ private:
 /// length.
 class ZARNEX_API HashFunction3 {
 public:
-    HashFunction3(long size = 1073741827);
+    HashFunction3(long size = 1073741827); ///< `size` is ignored
 
     /// |h| times 0.61254233 in single precision, truncated.
     ///
@@ -62,16 +63,28 @@ private:
 /// An integer as a key.
 class ZARNEX_API ZHashInt {
 public:
-    ZHashInt(int value);
+    ZHashInt(int value); ///< the key `value`
+
+    /// The same value.
+    /// @{
     ZHashInt(const ZHashInt& other);
     ZHashInt& operator=(const ZHashInt& other);
+    /// @}
+
+    /// Virtual: a derived key may be deleted as this one.
     virtual ~ZHashInt();
 
+    /// Whether the values are equal: 1 or 0.
+    /// @{
     int operator==(const ZHashInt& other) const;
     int operator!=(const ZHashInt& other) const;
+    /// @}
 
+    /// The value.
+    /// @{
     operator int() const;
     int getInt() const;
+    /// @}
 
     /// 1741 times the value, wrapped to 32 bits.
     int hash() const;
@@ -85,6 +98,7 @@ private:
 /// Kept as is: of any size and sign, although HashFunction1 and 2 reduce.
 class ZARNEX_API IntHashFunction {
 public:
+    /// ZHashInt::hash() of `key`.
     long operator()(const ZHashInt& key) const;
 };
 
@@ -112,8 +126,8 @@ ZARNEX_INLINE long IntHashFunction::operator()(const ZHashInt& key) const {
     return key.hash();
 }
 
-// Comparison with plain integers, by value: without these it would be ambiguous.
-
+/// Comparison with plain integers, by value: without these it would be ambiguous.
+/// @{
 template <class Integer, std::enable_if_t<std::is_integral_v<Integer>, int> = 0>
 int operator==(const ZHashInt& a, Integer b) {
     if constexpr (std::is_unsigned_v<Integer>)
@@ -134,3 +148,4 @@ template <class Integer, std::enable_if_t<std::is_integral_v<Integer>, int> = 0>
 int operator!=(Integer a, const ZHashInt& b) {
     return !(b == a);
 }
+/// @}

@@ -11,13 +11,20 @@
 template <class P>
 class ArbTrans {
 public:
+    /// Nothing to set up: the state is that of derived classes.
     ArbTrans();
+
+    /// Nothing to copy: the state is that of derived classes.
+    /// @{
     ArbTrans(const ArbTrans&) = default;
     ArbTrans& operator=(const ArbTrans&) = default;
+    /// @}
+
+    /// Virtual: hosts delete transforms as this class.
     virtual ~ArbTrans();
 
-    virtual P transform(const P& p) = 0;
-    virtual P reverseTransform(const P& p) = 0;
+    virtual P transform(const P& p) = 0;        ///< the image of `p`
+    virtual P reverseTransform(const P& p) = 0; ///< the way back: what transform() takes to `p`
 };
 
 template <class P>

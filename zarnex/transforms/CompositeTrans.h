@@ -28,12 +28,17 @@ public:
     /// deleted with it, and each may be added only once.
     CompositeTrans(int owns);
 
+    /// A chain of the same members.
+    ///
     /// Kept as is: shallow, also as to ownership. Two chains that own the same members
     /// both delete them, and what a chain owned before an assignment is not deleted; copy
     /// only chains that own nothing.
+    /// @{
     CompositeTrans(const CompositeTrans& other);
     CompositeTrans& operator=(const CompositeTrans& other);
+    /// @}
 
+    /// Deletes the members of an owning chain, first to last.
     ~CompositeTrans() override;
 
     /// Appends `member`, which an owning chain owns from here on. Null is kept and skipped.
@@ -41,8 +46,8 @@ public:
     /// would not end.
     void addTrans(ArbTrans<P>* member);
 
-    P transform(const P& p) override;
-    P reverseTransform(const P& p) override;
+    P transform(const P& p) override;        ///< through the members, first to last
+    P reverseTransform(const P& p) override; ///< through their ways back, last to first
 
 private:
     std::list<ArbTrans<P>*> members_;

@@ -6,13 +6,23 @@
 template <class P>
 class IdTrans : public ArbTrans<P> {
 public:
+    /// The identity.
     IdTrans();
+
+    /// Nothing to copy: there is no state.
+    /// @{
     IdTrans(const IdTrans&) = default;
     IdTrans& operator=(const IdTrans&) = default;
+    /// @}
+
+    /// Releases nothing: there is no state.
     ~IdTrans() override;
 
+    /// `p` itself.
+    /// @{
     P transform(const P& p) override;
     P reverseTransform(const P& p) override;
+    /// @}
 };
 
 template <class P>

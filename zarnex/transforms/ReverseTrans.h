@@ -15,16 +15,21 @@ public:
     /// is deleted with it.
     ReverseTrans(ArbTrans<P>* inner, int owns);
 
+    /// Refers to the same transform.
+    ///
     /// Kept as is: shallow, also as to ownership. Two objects that own one transform both
     /// delete it, and what an object owned before an assignment is not deleted; copy only
     /// objects that own nothing.
+    /// @{
     ReverseTrans(const ReverseTrans&) = default;
     ReverseTrans& operator=(const ReverseTrans&) = default;
+    /// @}
 
+    /// Deletes the other transform if it owns that.
     ~ReverseTrans() override;
 
-    P transform(const P& p) override;
-    P reverseTransform(const P& p) override;
+    P transform(const P& p) override;        ///< reverseTransform() of the other transform
+    P reverseTransform(const P& p) override; ///< transform() of the other transform
 
 private:
     ArbTrans<P>* inner_;

@@ -61,17 +61,26 @@ class Z2DMatrix : public ZMatrix<T> {
 public:
     /// The identity.
     Z2DMatrix();
+
+    /// Elements of `other`, in storage of its own; its shape too, if that was changed.
     Z2DMatrix(const Z2DMatrix& other);
 
     /// A copy of a 2 x 2 matrix; the identity for any other shape.
     Z2DMatrix(const ZMatrix<T>& other);
 
+    /// Frees the elements.
     ~Z2DMatrix() override;
 
+    /// Takes shape and elements over.
+    /// @{
     Z2DMatrix& operator=(const Z2DMatrix& other);
     Z2DMatrix& operator=(const ZMatrix<T>& other) override;
+    /// @}
 
+    /// Makes the rows (1, 0) and (0, 1); returns 0.
     int identity() override;
+
+    /// Sets all four elements to 0.
     void clear() override;
 
     /// m00 * m11 - m01 * m10.
@@ -84,10 +93,14 @@ public:
     /// if either has another shape than 2 x 2, in place or not.
     int invert(Z2DMatrix& out) const;
 
+    /// Returns 0 if `out` has the shape of this matrix, else 1.
+    ///
     /// Kept as is: ZMatrix::invert(), which writes nothing, although the other two
     /// forms invert.
     int invert(ZMatrix<T>& out) const override;
 
+    /// Exchanges two elements in place.
+    ///
     /// Kept as is: exchanges m10 and m11, not m01 and m10: (1, 2, 3, 4) becomes
     /// (1, 2, 4, 3). Returns 0.
     int transpose();
@@ -98,6 +111,8 @@ public:
     /// Kept as is: a 2 x 2 matrix into itself is left as by transpose().
     int transpose(Z2DMatrix& out) const;
 
+    /// Writes the transpose to `out`, which must have the mirrored shape.
+    ///
     /// Kept as is: ZMatrix::transpose(), which turns (1, 2, 3, 4) in place into
     /// (1, 2, 2, 4).
     int transpose(ZMatrix<T>& out) const override;
@@ -106,12 +121,15 @@ public:
     /// Status 2, with `b` unchanged, if this matrix is singular.
     int solve(ZMatrix<T>& b) override;
 
+    /// Does nothing and returns 0, as in ZMatrix.
     int guassianReduction(ZMatrix<T>& b, int& rank) override;
 
-    /// Writes this matrix times `b` to `out`.
+    /// Writes this matrix times `b` to `out`, which must have the shape of the product.
+    /// @{
     int multiply(const Z2DMatrix& b, Z2DMatrix& out) const;
     int multiply(const ZMatrix<T>& b, ZMatrix<T>& out) const override;
     int multiply(const ZMatrix<T>& b, Z2DMatrix& out) const; // else ambiguous
+    /// @}
 
     /// This matrix times `b`: as a map, `b` acts first. A ZMatrix is taken as
     /// Z2DMatrix(const ZMatrix&) takes it: another shape is the identity.
@@ -119,22 +137,34 @@ public:
     /// Kept as is: multiplies on the right, although the operations of Z2DTrans act on
     /// the left.
     Z2DMatrix& operator*=(const Z2DMatrix& b);
+
+    /// Multiplies every element by `factor`.
     Z2DMatrix& operator*=(const T& factor) override;
 
+    /// Adds or subtracts `b` element by element.
+    /// @{
     Z2DMatrix& operator+=(const Z2DMatrix& b);
     Z2DMatrix& operator-=(const Z2DMatrix& b);
+    /// @}
+
+    /// As in ZMatrix: only where `b` has the mirrored shape.
+    /// @{
     Z2DMatrix& operator+=(const ZMatrix<T>& b) override;
     Z2DMatrix& operator-=(const ZMatrix<T>& b) override;
+    /// @}
 
-    /// (m00 * p.x + m01 * p.y, m10 * p.x + m11 * p.y).
+    /// The image of `p`: (m00 * p.x + m01 * p.y, m10 * p.x + m11 * p.y).
     DPoint operator*(const DPoint& p) const;
 
 protected:
     /// Whether the object has its four elements; without, nothing below may be called.
     bool isWhole() const;
 
+    /// All four elements, to read and to write at once.
+    /// @{
     zarnex::detail::Elements elements() const;
     void setElements(const zarnex::detail::Elements& m);
+    /// @}
 };
 
 template <class T>

@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// Z2DTrans, and what it does to points and vectors.
+
 #include <zarnex/config.h>
 #include <zarnex/geometry/DPoint.h>
 #include <zarnex/geometry/DVector.h>
@@ -33,15 +36,21 @@ class ZARNEX_API Z2DTrans : public Z2DMatrix<double> {
 public:
     /// The identity.
     Z2DTrans();
+
+    /// Elements of `other`, in storage of its own.
     Z2DTrans(const Z2DTrans& other);
 
     /// The two vectors are the rows: (1, 0) is taken to (a.x, b.x).
     Z2DTrans(const DVector& a, const DVector& b);
 
+    /// Frees the elements.
     ~Z2DTrans() override;
 
+    /// Takes shape and elements over, as Z2DMatrix does.
+    /// @{
     Z2DTrans& operator=(const Z2DTrans& other);
     Z2DTrans& operator=(const ZMatrix<double>& other) override;
+    /// @}
 
     /// Turns by `angle` in radians, unlike DPoint::rotate().
     Z2DTrans& rotate(double angle);
@@ -66,18 +75,18 @@ public:
     /// onto its argument.
     Z2DTrans& rotate(const DVector& u, const DVector& v);
 
-    /// Multiplies x coordinates by `sx` and y coordinates by `sy`.
+    /// Multiplies x coordinates by `sx` and y coordinates by `sy`; one of the two by `s`.
+    /// @{
     Z2DTrans& scale(double sx, double sy);
     Z2DTrans& xScale(double s);
     Z2DTrans& yScale(double s);
+    /// @}
 
-    /// Changes the sign of x and of y.
-    Z2DTrans& mirror();
-    Z2DTrans& flip();
+    Z2DTrans& mirror(); ///< changes the sign of x
+    Z2DTrans& flip();   ///< changes the sign of y
 
-    /// Adds `k` times y to x, and `k` times x to y.
-    Z2DTrans& xShear(double k);
-    Z2DTrans& yShear(double k);
+    Z2DTrans& xShear(double k); ///< adds `k` times y to x
+    Z2DTrans& yShear(double k); ///< adds `k` times x to y
 
     /// Lets `b` act after this transform.
     ///
@@ -101,22 +110,28 @@ public:
 };
 
 /// The image of a point or vector.
+/// @{
 ZARNEX_API DPoint operator*(const Z2DTrans& t, const DPoint& p);
 ZARNEX_API DVector operator*(const Z2DTrans& t, const DVector& v);
+/// @}
 
 /// The same, computed in doubles and rounded, halves away from zero; the nearest int
 /// where a coordinate does not fit and 0 for NaN.
 ///
 /// Kept as is: exact, so that the largest double below 0.5 becomes 0, although
 /// IPoint::roundScale() takes it to 1 (see zarnex::roundHalfAway).
+/// @{
 ZARNEX_API IPoint operator*(const Z2DTrans& t, const IPoint& p);
 ZARNEX_API IVector operator*(const Z2DTrans& t, const IVector& v);
+/// @}
 
-/// Replaces the point or vector by its image.
+/// Replaces the point or vector by its image and returns it.
+/// @{
 ZARNEX_API DPoint& operator*=(DPoint& p, const Z2DTrans& t);
 ZARNEX_API DVector& operator*=(DVector& v, const Z2DTrans& t);
 ZARNEX_API IPoint& operator*=(IPoint& p, const Z2DTrans& t);
 ZARNEX_API IVector& operator*=(IVector& v, const Z2DTrans& t);
+/// @}
 
 ZARNEX_INLINE Z2DTrans& Z2DTrans::operator=(const Z2DTrans& other) {
     Z2DMatrix<double>::operator=(other);

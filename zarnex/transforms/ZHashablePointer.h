@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// ZHashablePointer, and its comparisons with plain pointers.
+
 #include <zarnex/config.h>
 #include <zarnex/containers/ZList.h>
 #include <zarnex/geometry/DPoint.h>
@@ -12,43 +15,59 @@
 /// ArbTrans<DPoint>.
 ///
 /// Owns nothing: a host deletes what it points to. Stands for the plain pointer in every
-/// other place, and compares with plain pointers on either side. Unordered containers of the
-/// standard library need a functor that calls hash().
+/// other place, and compares with plain pointers on either side.
 template <class T>
 class ZHashablePointer {
 public:
     /// Null.
     ZHashablePointer();
-    ZHashablePointer(T* pointer);
+    ZHashablePointer(T* pointer); ///< `pointer`, which may be null
+
+    /// The same address.
+    /// @{
     ZHashablePointer(const ZHashablePointer&) = default;
     ZHashablePointer& operator=(const ZHashablePointer&) = default;
+    /// @}
+
+    /// Leaves alone what it points to.
     virtual ~ZHashablePointer();
 
-    /// 1 if both are the same address, else 0.
+    /// Whether both are the same address: 1 or 0.
+    /// @{
     int operator==(const ZHashablePointer& other) const;
     int operator==(const T* other) const;
     int operator!=(const ZHashablePointer& other) const;
     int operator!=(const T* other) const;
+    /// @}
 
-    /// In the order of the addresses, which is total.
+    /// In the order of the addresses, which is total: 1 or 0.
+    /// @{
     int operator<(const ZHashablePointer& other) const;
     int operator<(const T* other) const;
     int operator>(const ZHashablePointer& other) const;
     int operator>(const T* other) const;
+    /// @}
 
+    /// The plain pointer.
     operator T*() const;
 
-    /// Not for null.
+    /// What it points to. Not for null.
+    /// @{
     T* operator->() const;
     T& operator*() const;
+    /// @}
 
+    /// The plain pointer.
+    /// @{
     T* getPointer();
     T* getPointer() const;
+    /// @}
 
     /// The low 32 bits of the address times 1741, wrapped into 32 bits; 0 for null.
     int hash() const;
 
-    // For a null or const pointer on the left.
+    /// For a null or const pointer on the left.
+    /// @{
     friend int operator==(const T* a, const ZHashablePointer& b) {
         return b == a;
     }
@@ -61,6 +80,7 @@ public:
     friend int operator>(const T* a, const ZHashablePointer& b) {
         return b < a;
     }
+    /// @}
 
 private:
     T* pointer_;
@@ -78,10 +98,10 @@ using IfPointsTo = std::enable_if_t<std::is_convertible_v<Other*, const T*>, int
 
 } // namespace zarnex::detail
 
-// For pointers that would have to be converted first, on either side: to T, where the
-// comparison of two plain pointers would be as good a choice, and to a class derived
-// from T.
-
+/// The same comparisons for pointers that would have to be converted first, on either side: to
+/// T, where the comparison of two plain pointers would be as good a choice, and to a class
+/// derived from T.
+/// @{
 template <class T, class Other, zarnex::detail::IfPointsTo<Other, T> = 0>
 int operator==(const ZHashablePointer<T>& a, Other* b) {
     return a == static_cast<const T*>(b);
@@ -117,6 +137,7 @@ template <class T, class Other, zarnex::detail::IfPointsTo<Other, T> = 0>
 int operator>(Other* a, const ZHashablePointer<T>& b) {
     return b < static_cast<const T*>(a);
 }
+/// @}
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE ZHashablePointer<T>::ZHashablePointer() : pointer_(nullptr) {}

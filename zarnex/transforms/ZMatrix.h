@@ -30,8 +30,11 @@ public:
     /// Copies rows * cols numbers from `values`; null leaves the elements uninitialised.
     /// 0 x 0 for a negative size and for more than 2^31 - 1 elements.
     ZMatrix(int rows, int cols, const T* values);
+
+    /// Shape and elements of `other`, in storage of its own.
     ZMatrix(const ZMatrix& other);
 
+    /// Frees the elements. Virtual: a Z2DMatrix may be deleted as a ZMatrix.
     virtual ~ZMatrix();
 
     /// Writes the transpose to `out`, which must have the mirrored shape.
@@ -40,21 +43,29 @@ public:
     /// onto those below and stay: (1, 2, 3, 4) becomes (1, 2, 2, 4).
     virtual int transpose(ZMatrix& out) const;
 
+    /// The determinant, which only derived classes know.
+    ///
     /// Kept as is: 0.0 for every shape; Z2DMatrix computes it.
     virtual T det() const;
 
     /// 1 on the diagonal and 0 elsewhere; status 1 for a matrix that is not square.
     virtual int identity();
 
+    /// Sets every element to 0; the shape stays.
     virtual void clear();
 
-    /// Kept as is: inverts nothing and writes nothing. Returns 0 if `out` has the shape
-    /// of this matrix, else 1. Z2DMatrix::invert() inverts.
+    /// Returns 0 if `out` has the shape of this matrix, else 1.
+    ///
+    /// Kept as is: inverts nothing and writes nothing. Z2DMatrix::invert() inverts.
     virtual int invert(ZMatrix& out) const;
 
+    /// Solves a system of equations in derived classes.
+    ///
     /// Kept as is: does nothing and returns 0; Z2DMatrix solves.
     virtual int solve(ZMatrix& b);
 
+    /// Has a place among the virtual members, and no more.
+    ///
     /// Kept as is: does nothing and returns 0, in Z2DMatrix too.
     virtual int guassianReduction(ZMatrix&, int&);
 
@@ -62,44 +73,59 @@ public:
     /// element is summed up from 0.0 in the order of the columns of this matrix.
     virtual int multiply(const ZMatrix& b, ZMatrix& out) const;
 
-    /// Kept as is: a test of the shape, in spite of its name. 1 if the matrix has `rows`
-    /// rows and `cols` columns, else 0.
+    /// Whether the matrix has `rows` rows and `cols` columns: 1 or 0.
+    ///
+    /// Kept as is: a test of the shape, in spite of its name.
     virtual int rangeCheck(int rows, int cols) const;
 
     /// Takes shape and elements over. New storage is only made for another number of
     /// elements.
     virtual ZMatrix& operator=(const ZMatrix& other);
 
+    /// Multiplies every element by `factor`.
     virtual ZMatrix& operator*=(const T& factor);
 
-    /// Element by element, in the order of the storage.
+    /// Adds or subtracts `b` element by element, in the order of the storage.
     ///
     /// Kept as is: only if `b` has the mirrored shape, else nothing. A 2 x 3 matrix adds
     /// a 3 x 2 one and ignores a 2 x 3 one; for square matrices the two are the same.
+    /// @{
     virtual ZMatrix& operator+=(const ZMatrix& b);
     virtual ZMatrix& operator-=(const ZMatrix& b);
+    /// @}
 
+    /// The number of rows, of columns; 0 for a matrix without storage.
+    /// @{
     int getRows() const;
     int getCols() const;
+    /// @}
 
     /// The element in row `r` and column `c`. The indices are not checked.
+    /// @{
     T& get(int r, int c);
     const T& get(int r, int c) const;
     T& operator()(int r, int c);
     const T& operator()(int r, int c) const;
+    /// @}
+
+    /// Sets the element in row `r` and column `c`. The indices are not checked.
     void set(int r, int c, const T& value);
 
 protected:
     /// Exchange two rows or columns; nothing for an index outside of the matrix.
+    /// @{
     void swapRow(int a, int b);
     void swapCol(int a, int b);
+    /// @}
+
+    /// Exchanges two elements.
     static void swap(T& a, T& b);
 
     int size() const; ///< rows * columns
 
-    int cols_;
-    int rows_;
-    T* data_; ///< row by row; null if there is no storage
+    int cols_; ///< columns, at least 0
+    int rows_; ///< rows, at least 0
+    T* data_;  ///< row by row; null if there is no storage
 
 private:
     /// Takes new storage, without freeing any before; 0 x 0 if there is none.

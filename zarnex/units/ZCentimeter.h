@@ -25,26 +25,33 @@ protected:
     virtual int setValue(double value, int unit);
 
 public:
+    /// The class whose rule applies in a comparison with a plain number.
     using Quantity = ZCentimeter;
 
-    ZCentimeter(double centimeters = 0.0);
-    ZCentimeter(const ZString& text);
+    ZCentimeter(double centimeters = 0.0); ///< the number as it is, valid
+    ZCentimeter(const ZString& text);      ///< reads `text`
 
     /// Takes label and unit identifier too.
     ZCentimeter(const ZCentimeter& other) = default;
 
+    /// Takes value and validity.
+    ///
     /// Kept as is: takes value and validity alone, although copying construction
     /// takes everything.
     ZCentimeter& operator=(const ZCentimeter& other);
 
+    /// Virtual: an object of a derived class may be deleted as this one.
     virtual ~ZCentimeter();
 
     /// As the constructors from a number and from text.
+    /// @{
     ZCentimeter& operator=(double value);
     ZCentimeter& operator=(const ZString& text);
+    /// @}
 
     /// Convert and take the validity flag over. A density becomes its stitch
     /// length, a density of exactly 0.0 the length 0.0.
+    /// @{
     explicit ZCentimeter(const ZMillimeter& length);
     explicit ZCentimeter(const ZInch& length);
     explicit ZCentimeter(const ZEmbPoint& length);
@@ -53,10 +60,12 @@ public:
     ZCentimeter& operator=(const ZInch& length);
     ZCentimeter& operator=(const ZEmbPoint& length);
     ZCentimeter& operator=(const ZSpi& density);
+    /// @}
 
     /// The value, whether valid or not.
     operator double() const;
 
+    /// 1, or 0 where the text was not a quantity, or what was converted was not valid.
     int isValid() const;
     int getUnitId() const; ///< 3; 12 in a ZCentimeterPerSec
 
@@ -72,13 +81,17 @@ public:
     /// getStringWithUnits().
     virtual ZString getDensityStringWithUnits(int unit);
 
-    /// The same for const objects, through the virtual operations.
+    /// The two texts of a const object, through the virtual operations.
+    /// @{
     ZString getStringWithUnits(int unit) const;
     ZString getDensityStringWithUnits(int unit) const;
+    /// @}
 
     /// "%4.1lf" and the label.
+    /// @{
     virtual operator ZString();
     virtual operator ZString() const;
+    /// @}
 
     /// "%*.*lf" and the label.
     ZString getString(int width, int precision) const;
@@ -87,8 +100,8 @@ public:
     ///
     /// Kept as is: exact, although ZMillimeter allows 1e-9.
     int operator==(const ZCentimeter& other) const;
-    int operator!=(const ZCentimeter& other) const;
-    int operator<(const ZCentimeter& other) const;
+    int operator!=(const ZCentimeter& other) const; ///< 1 where == gives 0, else 0
+    int operator<(const ZCentimeter& other) const;  ///< by the values; 0 with NaN
 
     /// Sets the label of this object, "cm" at first. It is text, never a format.
     void setUnitString(ZString label);
@@ -100,8 +113,8 @@ protected:
     /// "%4.*lf" with `precision`, and the label.
     ZString displayed(int precision) const;
 
-    double value_;
-    int valid_;
+    double value_; ///< in centimetres, or by the unit of the derived class
+    int valid_;    ///< what isValid() returns
 
 private:
     int unitId_;

@@ -19,20 +19,29 @@ class ZSpi;
 ///     ZEmbPoint length(ZString("1 inch")); // 254.0, "254.0 pt"
 class ZARNEX_API ZEmbPoint {
 public:
+    /// The class whose rule applies in a comparison with a plain number.
     using Quantity = ZEmbPoint;
 
-    ZEmbPoint(double points = 0.0);
-    ZEmbPoint(const ZString& text);
+    ZEmbPoint(double points = 0.0); ///< the number as it is, valid
+    ZEmbPoint(const ZString& text); ///< reads `text`
+
+    /// Value and validity.
+    /// @{
     ZEmbPoint(const ZEmbPoint& other) = default;
     ZEmbPoint& operator=(const ZEmbPoint& other) = default;
+    /// @}
 
+    /// Virtual: an object of a derived class may be deleted as this one.
     virtual ~ZEmbPoint();
 
     /// As the constructors from a number and from text.
+    /// @{
     ZEmbPoint& operator=(double value);
     ZEmbPoint& operator=(const ZString& text);
+    /// @}
 
     /// Convert and take the validity flag over.
+    /// @{
     explicit ZEmbPoint(const ZMillimeter& length);
     explicit ZEmbPoint(const ZCentimeter& length);
     explicit ZEmbPoint(const ZInch& length);
@@ -40,6 +49,7 @@ public:
     ZEmbPoint& operator=(const ZMillimeter& length);
     ZEmbPoint& operator=(const ZCentimeter& length);
     ZEmbPoint& operator=(const ZInch& length);
+    /// @}
 
     /// The stitch length of a density.
     ///
@@ -51,6 +61,7 @@ public:
     /// The value, whether valid or not.
     operator double() const;
 
+    /// 1, or 0 where the text was not a quantity, or what was converted was not valid.
     int isValid() const;
     int getUnitId() const; ///< 5
 
@@ -59,8 +70,10 @@ public:
     void setStringWithUnits(const ZString& text, int preferredUnit);
 
     /// "%3.1lf pt".
+    /// @{
     operator ZString();
     operator ZString() const;
+    /// @}
 
     /// "%*.*lf pt".
     ZString getString(int width, int precision) const;
@@ -79,8 +92,8 @@ public:
     ///
     /// Kept as is: not quite exact, although ZInch is and ZMillimeter allows 1e-9.
     int operator==(const ZEmbPoint& other) const;
-    int operator!=(const ZEmbPoint& other) const;
-    int operator<(const ZEmbPoint& other) const;
+    int operator!=(const ZEmbPoint& other) const; ///< 1 where == gives 0, else 0
+    int operator<(const ZEmbPoint& other) const;  ///< by the values; 0 with NaN
 
 protected:
     /// As ZMillimeter::setValue().

@@ -10,31 +10,34 @@
 /// Text is read as for ZRealNumber and then rounded.
 class ZARNEX_API ZHalfNumber {
 public:
+    /// The class whose rule applies in a comparison with a plain number.
     using Quantity = ZHalfNumber;
 
-    ZHalfNumber(double number = 0.0);
-    ZHalfNumber(const ZString& text);
+    ZHalfNumber(double number = 0.0); ///< the number, rounded
+    ZHalfNumber(const ZString& text); ///< reads `text`
 
+    /// The value.
     operator double() const;
 
-    /// Always 1.
-    int isValid() const;
+    int isValid() const;   ///< always 1
     int getUnitId() const; ///< 11
 
     /// Reads `text` as the constructor does; the unit is ignored.
     void setStringWithUnits(const ZString& text, int unit);
 
     /// "%4.1lf".
+    /// @{
     operator ZString();
     operator ZString() const;
+    /// @}
 
     /// The own text, whatever the unit.
     ZString getStringWithUnits(int unit) const;
 
     /// 1 if both hold the same double; never for NaN.
     int operator==(const ZHalfNumber& other) const;
-    int operator!=(const ZHalfNumber& other) const;
-    int operator<(const ZHalfNumber& other) const;
+    int operator!=(const ZHalfNumber& other) const; ///< 1 where == gives 0, else 0
+    int operator<(const ZHalfNumber& other) const;  ///< by the values; 0 with NaN
 
 private:
     double value_;

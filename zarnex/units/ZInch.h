@@ -19,21 +19,30 @@ class ZSpi;
 ///     ZInch wrong(ZString("1 in extra")); // 1.0, invalid
 class ZARNEX_API ZInch {
 public:
+    /// The class whose rule applies in a comparison with a plain number.
     using Quantity = ZInch;
 
-    ZInch(double inches = 0.0);
-    ZInch(const ZString& text);
+    ZInch(double inches = 0.0); ///< the number as it is, valid
+    ZInch(const ZString& text); ///< reads `text`
+
+    /// Value and validity.
+    /// @{
     ZInch(const ZInch& other) = default;
     ZInch& operator=(const ZInch& other) = default;
+    /// @}
 
+    /// Virtual: an object of a derived class may be deleted as this one.
     virtual ~ZInch();
 
     /// As the constructors from a number and from text.
+    /// @{
     ZInch& operator=(double value);
     ZInch& operator=(const ZString& text);
+    /// @}
 
     /// Convert and take the validity flag over. A density becomes its stitch
     /// length, a density of exactly 0.0 the length 0.0.
+    /// @{
     explicit ZInch(const ZMillimeter& length);
     explicit ZInch(const ZCentimeter& length);
     explicit ZInch(const ZEmbPoint& length);
@@ -42,10 +51,12 @@ public:
     ZInch& operator=(const ZCentimeter& length);
     ZInch& operator=(const ZEmbPoint& length);
     ZInch& operator=(const ZSpi& density);
+    /// @}
 
     /// The value, whether valid or not.
     operator double() const;
 
+    /// 1, or 0 where the text was not a quantity, or what was converted was not valid.
     int isValid() const;
     int getUnitId() const; ///< 4
 
@@ -54,8 +65,10 @@ public:
     void setStringWithUnits(const ZString& text, int preferredUnit);
 
     /// "%4.2lf" and the label.
+    /// @{
     operator ZString();
     operator ZString() const;
+    /// @}
 
     /// "%*.*lf" and the label.
     ZString getString(int width, int precision) const;
@@ -74,8 +87,8 @@ public:
     ///
     /// Kept as is: exact, although ZMillimeter allows 1e-9.
     int operator==(const ZInch& other) const;
-    int operator!=(const ZInch& other) const;
-    int operator<(const ZInch& other) const;
+    int operator!=(const ZInch& other) const; ///< 1 where == gives 0, else 0
+    int operator<(const ZInch& other) const;  ///< by the values; 0 with NaN
 
     /// Sets the label of all objects, "in" at first. It is text, never a format.
     static void setUnitString(ZString label);

@@ -34,19 +34,27 @@ class ZSpi;
 ///     length.getStringWithUnits(5)  // "254.0 pt"
 class ZARNEX_API ZMillimeter {
 public:
+    /// The class whose rule applies in a comparison with a plain number.
     using Quantity = ZMillimeter;
 
-    ZMillimeter(double millimeters = 0.0);
-    ZMillimeter(const ZString& text);
+    ZMillimeter(double millimeters = 0.0); ///< the number as it is, valid
+    ZMillimeter(const ZString& text);      ///< reads `text`
+
+    /// Value and validity.
+    /// @{
     ZMillimeter(const ZMillimeter& other) = default;
     ZMillimeter& operator=(const ZMillimeter& other) = default;
+    /// @}
 
     /// As the constructors from a number and from text.
+    /// @{
     ZMillimeter& operator=(double value);
     ZMillimeter& operator=(const ZString& text);
+    /// @}
 
     /// Convert and take the validity flag over. A density becomes its stitch
     /// length, a density of exactly 0.0 the length 0.0.
+    /// @{
     explicit ZMillimeter(const ZCentimeter& length);
     explicit ZMillimeter(const ZInch& length);
     explicit ZMillimeter(const ZEmbPoint& length);
@@ -55,10 +63,12 @@ public:
     ZMillimeter& operator=(const ZInch& length);
     ZMillimeter& operator=(const ZEmbPoint& length);
     ZMillimeter& operator=(const ZSpi& density);
+    /// @}
 
     /// The value, whether valid or not.
     operator double() const;
 
+    /// 1, or 0 where the text was not a quantity, or what was converted was not valid.
     int isValid() const;
     int getUnitId() const; ///< 2
 
@@ -70,6 +80,8 @@ public:
     /// need them, else one. " 2.5 mm", "2.34 mm".
     operator ZString();
 
+    /// Four places wide, with one decimal and the label.
+    ///
     /// Kept as is: always one decimal, although the conversion of an object that is
     /// not const chooses.
     operator ZString() const;
@@ -78,8 +90,10 @@ public:
     ZString getString() const;
 
     /// "%*.*lf" and the label.
+    /// @{
     ZString getString(int width, int precision) const;
     ZString getDensityString(int width, int precision) const;
+    /// @}
 
     /// The length in another unit: 4 inch, 5 point, 6 stitches per inch; any other
     /// gives the own text.
@@ -95,8 +109,8 @@ public:
     ///
     /// Kept as is: ZInch and ZCentimeter compare exactly. Not transitive.
     int operator==(const ZMillimeter& other) const;
-    int operator!=(const ZMillimeter& other) const;
-    int operator<(const ZMillimeter& other) const;
+    int operator!=(const ZMillimeter& other) const; ///< 1 where == gives 0, else 0
+    int operator<(const ZMillimeter& other) const;  ///< by the values; 0 with NaN
 
     /// Sets the label of all objects, "mm" at first. It is text, never a format.
     static void setUnitString(ZString label);

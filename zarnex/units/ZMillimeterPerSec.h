@@ -20,19 +20,27 @@ class ZSpi;
 /// ZCentimeterPerSec converts them and so does assignment.
 class ZARNEX_API ZMillimeterPerSec {
 public:
+    /// The class whose rule applies in a comparison with a plain number.
     using Quantity = ZMillimeterPerSec;
 
-    ZMillimeterPerSec(double millimetersPerSec = 0.0);
-    ZMillimeterPerSec(const ZString& text);
+    ZMillimeterPerSec(double millimetersPerSec = 0.0); ///< the number as it is, valid
+    ZMillimeterPerSec(const ZString& text);            ///< reads `text`
+
+    /// Value and validity.
+    /// @{
     ZMillimeterPerSec(const ZMillimeterPerSec& other) = default;
     ZMillimeterPerSec& operator=(const ZMillimeterPerSec& other) = default;
+    /// @}
 
     /// As the constructors from a number and from text.
+    /// @{
     ZMillimeterPerSec& operator=(double value);
     ZMillimeterPerSec& operator=(const ZString& text);
+    /// @}
 
     /// The length per second, with its validity flag; a density counts as its
     /// stitch length, a density of exactly 0.0 as 0.0.
+    /// @{
     explicit ZMillimeterPerSec(const ZCentimeter& length);
     explicit ZMillimeterPerSec(const ZEmbPoint& length);
     explicit ZMillimeterPerSec(const ZInch& length);
@@ -41,10 +49,12 @@ public:
     ZMillimeterPerSec& operator=(const ZEmbPoint& length);
     ZMillimeterPerSec& operator=(const ZInch& length);
     ZMillimeterPerSec& operator=(const ZSpi& density);
+    /// @}
 
     /// The value, whether valid or not.
     operator double() const;
 
+    /// 1, or 0 where the text was not a quantity, or what was converted was not valid.
     int isValid() const;
     int getUnitId() const; ///< 14
 
@@ -52,6 +62,8 @@ public:
     /// refused counts in `preferredUnit`, or in mm/s if that is refused.
     void setStringWithUnits(const ZString& text, int preferredUnit);
 
+    /// The value with many decimals, and the label.
+    ///
     /// Kept as is: "%4.*2f" with 2 where the hundredths, cut off, need them, else
     /// 1, which renders 22 or 12 decimals, although the conversion of a const object
     /// renders 2. ZMillimeter rounds the hundredths.
@@ -64,8 +76,10 @@ public:
     ZString getString() const;
 
     /// "%*.*lf" and the label.
+    /// @{
     ZString getString(int width, int precision) const;
     ZString getDensityString(int width, int precision) const;
+    /// @}
 
     /// As getString(), whatever the unit.
     ZString getStringWithUnits(int unit) const;
@@ -77,8 +91,8 @@ public:
     ///
     /// Kept as is: ZCentimeterPerSec compares exactly.
     int operator==(const ZMillimeterPerSec& other) const;
-    int operator!=(const ZMillimeterPerSec& other) const;
-    int operator<(const ZMillimeterPerSec& other) const;
+    int operator!=(const ZMillimeterPerSec& other) const; ///< 1 where == gives 0, else 0
+    int operator<(const ZMillimeterPerSec& other) const;  ///< by the values; 0 with NaN
 
     /// Sets the label of all objects, "mm/s" at first. It is text, never a format.
     static void setUnitString(ZString label);

@@ -24,22 +24,31 @@ class ZMillimeterPerSec;
 /// length is refused and the bare number is not.
 class ZARNEX_API ZSpi {
 public:
+    /// The class whose rule applies in a comparison with a plain number.
     using Quantity = ZSpi;
 
-    ZSpi(double stitchesPerInch = 0.0);
-    ZSpi(const ZString& text);
+    ZSpi(double stitchesPerInch = 0.0); ///< the number as it is, valid
+    ZSpi(const ZString& text);          ///< reads `text`
+
+    /// Value and validity.
+    /// @{
     ZSpi(const ZSpi& other) = default;
     ZSpi& operator=(const ZSpi& other) = default;
+    /// @}
 
+    /// Virtual: an object of a derived class may be deleted as this one.
     virtual ~ZSpi();
 
     /// As the constructors from a number and from text.
+    /// @{
     ZSpi& operator=(double value);
     ZSpi& operator=(const ZString& text);
+    /// @}
 
     /// The density of a stitch length, with its validity flag; 0.0 for a length of
     /// zero (of points, for one that equals 0.0 by their own rule). A speed counts
     /// as its length.
+    /// @{
     explicit ZSpi(const ZMillimeter& length);
     explicit ZSpi(const ZMillimeterPerSec& speed);
     explicit ZSpi(const ZCentimeter& length);
@@ -50,10 +59,12 @@ public:
     ZSpi& operator=(const ZCentimeter& length);
     ZSpi& operator=(const ZInch& length);
     ZSpi& operator=(const ZEmbPoint& length);
+    /// @}
 
     /// The value, whether valid or not.
     operator double() const;
 
+    /// 1, or 0 where the text was not a quantity, or what was converted was not valid.
     int isValid() const;
     int getUnitId() const; ///< 6
 
@@ -62,8 +73,10 @@ public:
     void setStringWithUnits(const ZString& text, int preferredUnit);
 
     /// "%3.1lf spi".
+    /// @{
     operator ZString();
     operator ZString() const;
+    /// @}
 
     /// "%*.*lf spi".
     ZString getString(int width, int precision) const;
@@ -78,8 +91,8 @@ public:
 
     /// 1 if both hold the same double; never for NaN.
     int operator==(const ZSpi& other) const;
-    int operator!=(const ZSpi& other) const;
-    int operator<(const ZSpi& other) const;
+    int operator!=(const ZSpi& other) const; ///< 1 where == gives 0, else 0
+    int operator<(const ZSpi& other) const;  ///< by the values; 0 with NaN
 
 protected:
     /// As ZMillimeter::setValue(). Takes every density, refuses a negative length.

@@ -14,18 +14,25 @@
 ///     ZSquareCentimeter beads(ZString("40 per sq cm")); // "40.0 per sq cm"
 class ZARNEX_API ZSquareCentimeter {
 public:
+    /// The class whose rule applies in a comparison with a plain number.
     using Quantity = ZSquareCentimeter;
 
-    ZSquareCentimeter(double squareCentimeters = 0.0);
-    ZSquareCentimeter(const ZString& text);
+    ZSquareCentimeter(double squareCentimeters = 0.0); ///< the number as it is, valid
+    ZSquareCentimeter(const ZString& text);            ///< reads `text`
+
+    /// Value and validity.
+    /// @{
     ZSquareCentimeter(const ZSquareCentimeter& other) = default;
     ZSquareCentimeter& operator=(const ZSquareCentimeter& other) = default;
+    /// @}
 
+    /// Virtual: an object of a derived class may be deleted as this one.
     virtual ~ZSquareCentimeter();
 
     /// The value, whether valid or not.
     operator double() const;
 
+    /// 1, or 0 where the text was not a quantity.
     int isValid() const;
     int getUnitId() const; ///< 7
 
@@ -34,8 +41,10 @@ public:
     void setStringWithUnits(const ZString& text, int preferredUnit);
 
     /// "%4.1lf per sq cm".
+    /// @{
     operator ZString();
     operator ZString() const;
+    /// @}
 
     /// "%*.*lf per sq cm".
     ZString getString(int width, int precision) const;
@@ -45,8 +54,8 @@ public:
 
     /// 1 if both hold the same double; never for NaN.
     int operator==(const ZSquareCentimeter& other) const;
-    int operator!=(const ZSquareCentimeter& other) const;
-    int operator<(const ZSquareCentimeter& other) const;
+    int operator!=(const ZSquareCentimeter& other) const; ///< 1 where == gives 0, else 0
+    int operator<(const ZSquareCentimeter& other) const;  ///< by the values; 0 with NaN
 
 protected:
     /// As ZMillimeter::setValue().

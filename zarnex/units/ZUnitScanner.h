@@ -45,8 +45,11 @@ public:
     /// buffers the process ends with status 1 ("No space for scanner!").
     explicit ZUnitScanner(const wchar_t* text);
 
+    /// Not to be copied: the scanner holds a lock.
+    /// @{
     ZUnitScanner(const ZUnitScanner&) = delete;
     ZUnitScanner& operator=(const ZUnitScanner&) = delete;
+    /// @}
 
     /// Releases the lock.
     virtual ~ZUnitScanner();

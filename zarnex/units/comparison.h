@@ -4,6 +4,7 @@
 
 #include <type_traits>
 
+/// @file
 /// Comparison of quantities with plain numbers, such as `width == 2.5` and
 /// `width < 3`.
 ///
@@ -31,6 +32,8 @@ using IfDifferentQuantities =
 
 } // namespace zarnex::detail
 
+/// 1 if it holds, else 0. With a NaN only != holds.
+/// @{
 template <class Class, class Number, zarnex::detail::IfQuantityAndNumber<Class, Number> = 0>
 int operator==(const Class& object, Number number) {
     using Quantity = typename Class::Quantity;
@@ -63,10 +66,11 @@ template <class Class, class Number, zarnex::detail::IfQuantityAndNumber<Class, 
 int operator>(const Class& object, Number number) {
     return double(object) > static_cast<double>(number);
 }
+/// @}
 
-// Quantities of different units do not compare: their bare numbers would. Convert
-// first, as in `length == ZMillimeter(width)`. Sums are of bare numbers all the same.
-
+/// Quantities of different units do not compare: their bare numbers would. Convert
+/// first, as in `length == ZMillimeter(width)`. Sums are of bare numbers all the same.
+/// @{
 template <class A, class B, zarnex::detail::IfDifferentQuantities<A, B> = 0>
 int operator==(const A&, const B&) = delete;
 
@@ -84,3 +88,4 @@ int operator<=(const A&, const B&) = delete;
 
 template <class A, class B, zarnex::detail::IfDifferentQuantities<A, B> = 0>
 int operator>=(const A&, const B&) = delete;
+/// @}

@@ -3,6 +3,7 @@
 #include <zarnex/config.h>
 #include <zarnex/strings/ZString.h>
 
+/// @file
 /// Values in units that are known by their identifier (zarnex::UnitId).
 ///
 /// Kept as is: conversion goes through the display text, although assignment between

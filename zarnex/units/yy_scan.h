@@ -43,8 +43,11 @@ public:
     /// Kept as is: this constructor alone asks for 20; the other takes any size.
     yy_scan(int size, char* text, unsigned char* states);
 
+    /// Not to be copied: the engine holds buffers.
+    /// @{
     yy_scan(const yy_scan&) = delete;
     yy_scan& operator=(const yy_scan&) = delete;
+    /// @}
 
     /// Not virtual: do not delete an object of a derived class through a yy_scan*.
     ~yy_scan();
