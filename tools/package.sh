@@ -93,7 +93,8 @@ check_debian() {
 # install_debian: the packages installed, tried, and removed without a trace, where that can be.
 install_debian() {
     local apt=() files=() path status=0
-    if dpkg --status "${debian[@]}" 2>/dev/null | grep -q '^Status: .* installed'; then
+    if [[ -n $(dpkg-query --show --showformat='${db:Status-Abbrev}\n' "${debian[@]}" 2>/dev/null |
+        grep '^i') ]]; then
         say "Not tried installed: they are on this machine already"
         return
     fi
