@@ -50,9 +50,9 @@ else()
         ${debugger_files}/libzarnex-foundation.so.${PROJECT_VERSION}-gdb.py)
     set(printers_dir ${CMAKE_INSTALL_DATADIR}/gdb/auto-load${CMAKE_INSTALL_FULL_LIBDIR})
 endif()
-install(FILES ${printers} DESTINATION ${printers_dir} COMPONENT development OPTIONAL)
+install(FILES ${printers} DESTINATION ${printers_dir} COMPONENT development)
 install(FILES ${debugger_files}/zarnex.natvis
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/zarnex COMPONENT development OPTIONAL)
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/zarnex COMPONENT development)
 
 # The host programs find the library relative to themselves, wherever the prefix stands.
 if(ZARNEX_BUILD_EXAMPLES)
@@ -66,10 +66,10 @@ if(ZARNEX_BUILD_EXAMPLES)
             install(TARGETS ${target} RUNTIME COMPONENT tools)
             if(NOT WIN32)
                 install(FILES ${PROJECT_SOURCE_DIR}/docs/man/${target}.1
-                    DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools OPTIONAL)
+                    DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
                 install(FILES ${PROJECT_SOURCE_DIR}/examples/completion/${target}
                     DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
-                    COMPONENT tools OPTIONAL)
+                    COMPONENT tools)
             endif()
         endif()
     endforeach()

@@ -66,8 +66,7 @@ build_debian() {
     (cd "$work/$1" && DEB_BUILD_OPTIONS="parallel=$jobs nocheck" \
         dpkg-buildpackage --build=binary --no-sign) </dev/null >"$work/debian.log" 2>&1 ||
         fail "$(tail -n 40 "$work/debian.log")" "The build failed"
-    lintian --allow-root --suppress-tags no-manual-page --fail-on error,warning \
-        "$work"/*.changes || fail "lintian objects"
+    lintian --allow-root --fail-on error,warning "$work"/*.changes || fail "lintian objects"
     say "lintian has nothing to object to"
     mv "$work"/*.deb "$packages"
 }
@@ -148,7 +147,7 @@ windows_zip() {
 }
 
 make_packages() {
-    need dpkg-dev debhelper lintian pkg-config || fail "Cannot make packages: $reason"
+    need dpkg-dev debhelper libedit-dev lintian pkg-config || fail "Cannot make packages: $reason"
     version=$(dpkg-parsechangelog --show-field Version)
     grep -q "^project(.* VERSION $version " CMakeLists.txt ||
         fail "debian/changelog and CMakeLists.txt disagree on the version"
