@@ -1,7 +1,7 @@
 # Sourced by ./dev: what is quick to say about the sources without running them. The thorough
 # analyses are the trial `analysis`.
 
-lint_packages=(clang-format-14 shellcheck python3)
+lint_packages=(clang-format-14 mandoc shellcheck python3)
 
 # All checks print what they find, one place a line, and fail if there is anything.
 
@@ -12,8 +12,10 @@ lint_format() { tracked '*.cpp' '*.h' | xargs -P "$jobs" -n 16 clang-format-14 -
 # What is sourced has the variables of ./dev.
 lint_shell() {
     shellcheck --external-sources --severity=warning dev .ci/run &&
-        tracked '*.sh' | xargs shellcheck --shell=bash --severity=warning --exclude=SC2154
+        tracked '*.sh' 'examples/completion/*' | xargs shellcheck --shell=bash --severity=warning --exclude=SC2154
 }
+
+lint_man() { tracked 'docs/man/*' | xargs mandoc -T lint; }
 
 lint_python() {
     tracked '*.py' | xargs python3 -c '
@@ -24,11 +26,12 @@ for path in sys.argv[1:]:
 }
 
 # Spaces at the ends of lines, tabs, line ends of Windows and files without a last line end, in
-# what people write; data for the programs and inputs of the fuzz targets may hold anything.
+# what people write; data for the programs and inputs of the fuzz targets may hold anything, and
+# make wants tabs.
 lint_text() {
     local files file status=0
     mapfile -t files < <(git grep -Il '' -- ':!fuzz/seeds' ':!fuzz/finds' ':!examples/data' \
-        ':!*.tsv' ':!*.svg')
+        ':!*.tsv' ':!*.svg' ':!debian/rules')
     if grep -nP '[ \t\r]+$|\t' -- "${files[@]}"; then
         status=1
     fi
@@ -54,7 +57,7 @@ run_lint() {
     local check failed=() log
     need "${lint_packages[@]}" || fail "Cannot lint: $reason"
     log=$(mktemp)
-    for check in format shell python text links; do
+    for check in format shell man python text links; do
         if "lint_$check" >"$log" 2>&1; then
             say "$check: nothing found"
         else

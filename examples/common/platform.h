@@ -9,7 +9,8 @@
 
 namespace host::platform {
 
-/// Lets the standard streams carry bytes as they are. Called once, before all others.
+/// Lets the standard streams carry bytes as they are, and a closed one stay closed whatever is
+/// opened. Called once, before all others.
 void prepareStreams();
 
 /// The program's arguments without its name.

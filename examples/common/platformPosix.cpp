@@ -45,7 +45,13 @@ mode_t ordinaryMode() {
 
 } // namespace
 
-void prepareStreams() {}
+// A stream that the caller has closed would otherwise be the first file that the program opens;
+// what holds its place fails as a closed one does.
+void prepareStreams() {
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+        if (fcntl(stream, F_GETFD) < 0)
+            static_cast<void>(open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY));
+}
 
 std::vector<std::string> arguments(int argc, char** argv) {
     return std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc);

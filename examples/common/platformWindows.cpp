@@ -1,6 +1,8 @@
 #include "common/platform.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <iterator>
 #include <system_error>
 
 #include <windows.h>
@@ -48,6 +50,32 @@ std::wstring widen(const std::string& text) {
     return out;
 }
 
+HANDLE handleOf(int file) {
+    return reinterpret_cast<HANDLE>(_get_osfhandle(file));
+}
+
+bool isConsole(HANDLE file) {
+    DWORD mode = 0;
+    return GetConsoleMode(file, &mode) != 0;
+}
+
+// What is typed into a console comes in its code page to those who read bytes, so it is taken
+// wide. A line that begins with Ctrl-Z is the end.
+std::size_t readConsole(HANDLE console, char* bytes, std::size_t room) {
+    wchar_t typed[1024];
+    const auto most = static_cast<DWORD>((std::min)(std::size(typed), room / 3)); // as UTF-8
+    DWORD count = 0;
+    if (!ReadConsoleW(console, typed, most, &count, nullptr)) {
+        errno = EIO;
+        fail();
+    }
+    if (count == 0 || typed[0] == 0x1A)
+        return 0;
+    return static_cast<std::size_t>(WideCharToMultiByte(CP_UTF8, 0, typed, static_cast<int>(count),
+                                                        bytes, static_cast<int>(room), nullptr,
+                                                        nullptr));
+}
+
 // Whether the path names a device such as NUL or CON.
 bool isDevice(const std::string& path) {
     const HANDLE file = CreateFileW(widen(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
@@ -85,6 +113,8 @@ int openFile(const std::string& path) {
 }
 
 std::size_t readSome(int file, char* bytes, std::size_t room) {
+    if (const HANDLE handle = handleOf(file); isConsole(handle))
+        return readConsole(handle, bytes, room);
     const int count = _read(file, bytes, static_cast<unsigned>(room));
     if (count < 0)
         fail();
@@ -162,7 +192,7 @@ void discard(const Replacement& made) noexcept {
 }
 
 bool isTerminal(int file) {
-    return _isatty(file) != 0;
+    return isConsole(handleOf(file)); // to _isatty() NUL is one, too
 }
 
 } // namespace host::platform

@@ -14,7 +14,7 @@ inline constexpr std::size_t mostMotifBytes = std::size_t(4) << 20;
 /// The lines of a motif, without line ends and a byte order mark. They refer into `text`.
 std::vector<std::string_view> linesOf(std::string_view text);
 
-/// Reads the statements of a motif, one a line; the program's help lists them.
+/// Reads the statements of a motif, one a line; motifHelpText lists them.
 ///
 /// Throws MotifError for the first line that is none, and for what is missing.
 Motif readMotif(const std::vector<std::string_view>& lines);

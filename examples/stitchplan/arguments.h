@@ -1,6 +1,5 @@
 #pragma once
 
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -8,22 +7,19 @@ namespace stitchplan {
 
 /// What the program was called with.
 struct Arguments {
-    enum class Task { plan, help, version };
+    enum class Task { plan, help, motifHelp, version };
 
     Task task = Task::plan;
     std::string motif;   ///< a path; "-" is the standard input
     std::string picture; ///< a path; empty for none
 };
 
-/// A call that the program does not take; its text says why.
-class UsageError : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
-
-/// Reads the arguments, without the program's name, or throws UsageError.
+/// Reads the arguments, without the program's name, or throws host::UsageError.
 Arguments parseArguments(const std::vector<std::string>& given);
 
 extern const char* const helpText;
+
+/// How a motif is written.
+extern const char* const motifHelpText;
 
 } // namespace stitchplan

@@ -10,6 +10,7 @@
 #include "stitchplan/plan.h"
 #include "stitchplan/summary.h"
 
+#include "common/CommandLine.h"
 #include "common/Messages.h"
 #include "common/NewFile.h"
 #include "common/Output.h"
@@ -111,6 +112,9 @@ void run(const Arguments& arguments, Output& output, Messages& messages) {
     switch (arguments.task) {
     case Arguments::Task::help:
         output.add(helpText);
+        break;
+    case Arguments::Task::motifHelp:
+        output.add(motifHelpText);
         break;
     case Arguments::Task::version:
         output.add(PROGRAM_NAME " " PROGRAM_VERSION "\n");

@@ -1,4 +1,4 @@
-#include "LineReader.h"
+#include "units/LineReader.h"
 
 #include "common/platform.h"
 

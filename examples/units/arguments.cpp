@@ -1,9 +1,8 @@
-#include "arguments.h"
+#include "units/arguments.h"
 
+#include "common/CommandLine.h"
 #include "common/unitNames.h"
 #include "common/utf8.h"
-
-#include <cstddef>
 
 namespace units {
 
@@ -13,30 +12,30 @@ const char* const helpText =
     R"(Usage: zarnex-units [--unit UNIT] TEXT... [UNIT]
        zarnex-units [--unit UNIT] --check TEXT...
        zarnex-units [--unit UNIT] --file FILE | -
+       zarnex-units [--unit UNIT]
 
-Converts typed quantities such as "2.5 mm", 3" and "6 stitches".
-
-A TEXT is one quantity; quote it. It is printed in every unit that it converts
-to, or in UNIT alone: the unit, the display text and the exact number.
+Reads quantities as people type them, such as "2.5 mm", 3" and "6 stitches".
+Each TEXT is one; it is printed in every unit that it converts to, or in UNIT
+alone: the unit, the display text and the exact number. Without a text, and on
+a terminal, the program asks for them.
 
   --check      say of each TEXT whether it is valid and what was seen in it
-  --file FILE  read a quantity a line and write a table between tabs; "-" stands
-               for the standard input. Blank lines and lines that begin with "#"
-               are skipped.
+  --file FILE  make a table of a file with a quantity a line; "-" is the
+               standard input
   --unit UNIT  what a number without a unit counts in; mm if not given
   --           what follows are texts
   --help, --version
 
 UNIT is mm, cm, in, pt, spi, "per sq cm", mm/s, cm/s or another word for one.
-The status is 0 if all texts are valid, 1 if not, 2 if the call, the file or the
-output is at fault. Words that are no units, as in "3 ft" and "50 %", are ignored:
-the number counts as it does without them, and what was ignored is said. Fractions are
-not read: "1 1/2 in" is 1 mm.
+Status: 0 all texts are valid, 1 some are not, 2 the call, a file or the output
+is at fault.
 
   zarnex-units "2.5 mm"
-  zarnex-units "1 in extra" --check
-  zarnex-units --unit in --file lengths.txt > lengths.tsv
+  zarnex-units --unit in 3 cm
+  echo 1 in | zarnex-units -
 )";
+
+const char* const noQuantity = "no quantity";
 
 namespace {
 
@@ -58,31 +57,24 @@ Arguments parseArguments(const std::vector<std::string>& given) {
         arguments.task = task;
     };
 
-    bool optionsOver = false;
-    for (std::size_t i = 0; i < given.size(); ++i) {
-        const std::string& text = given[i];
-        const auto value = [&]() -> const std::string& {
-            if (i + 1 == given.size())
-                throw UsageError(text + " needs a value");
-            return given[++i];
-        };
-        if (optionsOver || (text.substr(0, 2) != "--" && text != "-" && text != "-h")) {
+    CommandLine line(given);
+    while (line.next()) {
+        const std::string& text = line.text();
+        if (line.isDash()) {
+            setTask(Task::table);
+            arguments.file = text;
+        } else if (!line.isOption()) {
             arguments.texts.push_back(text);
-        } else if (text == "--") {
-            optionsOver = true;
         } else if (text == "--help" || text == "-h" || text == "--version") {
             arguments.task = text == "--version" ? Task::version : Task::help;
             return arguments;
         } else if (text == "--check") {
             setTask(Task::check);
-        } else if (text == "-") {
-            setTask(Task::table);
-            arguments.file = text;
         } else if (text == "--file") {
             setTask(Task::table);
-            arguments.file = value();
+            arguments.file = line.value("the name of a file");
         } else if (text == "--unit") {
-            arguments.bareUnit = unitFrom(value());
+            arguments.bareUnit = unitFrom(line.value("a unit"));
             arguments.bareUnitGiven = true;
         } else {
             throw UsageError("not an option: " + quoted(text));
@@ -96,8 +88,10 @@ Arguments parseArguments(const std::vector<std::string>& given) {
         if (arguments.to != zarnex::unitNone)
             arguments.texts.pop_back();
     }
-    if (arguments.task != Task::table && arguments.texts.empty())
-        throw UsageError("no quantity");
+    if (arguments.task == Task::check && arguments.texts.empty())
+        throw UsageError(noQuantity);
+    if (arguments.task == Task::list && arguments.texts.empty())
+        arguments.task = Task::prompt;
     return arguments;
 }
 

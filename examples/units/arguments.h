@@ -2,7 +2,6 @@
 
 #include <zarnex/units/unitIds.h>
 
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -10,7 +9,7 @@ namespace units {
 
 /// What the program was called with.
 struct Arguments {
-    enum class Task { list, check, table, help, version };
+    enum class Task { list, check, table, prompt, help, version };
 
     Task task = Task::list;
     std::vector<std::string> texts;        ///< to list or check
@@ -20,18 +19,15 @@ struct Arguments {
     int to = zarnex::unitNone; ///< the one unit to list; unitNone for all
 };
 
-/// A call that the program does not take; its text says why.
-class UsageError : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
-
-/// Reads the arguments, without the program's name, or throws UsageError.
+/// Reads the arguments, without the program's name, or throws host::UsageError.
 ///
-/// Options begin with "--" and may stand anywhere in front of "--"; "-2 mm" is a
-/// quantity. A last text that is the word of a unit is the unit to list.
+/// Options may stand anywhere in front of "--"; "-2 mm" is a quantity. A last text that is
+/// the word of a unit is the unit to list. Without texts, quantities are asked for.
 Arguments parseArguments(const std::vector<std::string>& given);
 
 extern const char* const helpText;
+
+/// What is wrong with a call that lacks a text.
+extern const char* const noQuantity;
 
 } // namespace units

@@ -3,10 +3,12 @@
 /// A host program of the library, to read and to copy from: Reading runs the
 /// scanner, Quantity.h converts, rendering.cpp displays.
 
-#include "LineReader.h"
-#include "arguments.h"
-#include "rendering.h"
+#include "units/LineReader.h"
+#include "units/arguments.h"
+#include "units/prompt.h"
+#include "units/rendering.h"
 
+#include "common/CommandLine.h"
 #include "common/Messages.h"
 #include "common/Output.h"
 #include "common/Reading.h"
@@ -117,6 +119,11 @@ Status run(const Arguments& arguments, Output& output, Messages& messages) {
         return checkAll(arguments, output);
     case Arguments::Task::table:
         return makeTable(arguments, output, messages);
+    case Arguments::Task::prompt:
+        if (!platform::isTerminal(0) || !platform::isTerminal(1))
+            throw UsageError(noQuantity);
+        askForQuantities(arguments.bareUnit, output);
+        return allValid;
     case Arguments::Task::help:
         output.add(helpText);
         return allValid;

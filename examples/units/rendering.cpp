@@ -1,4 +1,4 @@
-#include "rendering.h"
+#include "units/rendering.h"
 
 #include "common/unitNames.h"
 #include "common/utf8.h"

@@ -90,3 +90,14 @@ for modulus in [plain(2048) | 1, edgy(2048) | 1, plain(2048) & ~1, plain(1000) <
     power(plain(2048), plain(2048), modulus)
 power(plain(8192), 65537, plain(8192) | 1)
 power(plain(8192), 65537, plain(3333) << 4859)
+
+# A factor that is a whole number of slices.
+pair(edgy(8192), edgy(2048))
+
+# Divisors of one limb for which the guessed quotient is too small.
+for high, low, divisor in [
+    (0x8000F69F84DE2A48, 0xFFFFFFFFE64E341F, 0x8000F69F84DE2A4F),
+    (0x399035FA60D437AF, 0xFFFFFFFFFFFFFDCA, 0x8000000571C71941),
+    (0x800001DA67AE14C6, 0xFFFFFFFFFFFFFFFF, 0x800001DA67AF5F0A),
+]:
+    row("remainder", high << 64 | low, divisor, (high << 64 | low) % divisor)

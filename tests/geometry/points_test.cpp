@@ -34,6 +34,8 @@ TYPED_TEST(Points, PointsAndVectorsCombine) {
     static_assert(std::is_same_v<decltype(P() + V()), P>);
     static_assert(std::is_same_v<decltype(P() + P()), P>);
     const P p(7, -2);
+    EXPECT_TRUE(p == P(7, -2) && p != P(7, -1) && p != P(6, -2));
+    EXPECT_FALSE(p == P(7, -1) || p == P(6, -2) || p != P(7, -2));
     EXPECT_TRUE(at(p + V(1, 2), 8, 0) && at(p - V(1, 2), 6, -4));
     P moved = p;
     EXPECT_TRUE(at(moved += V(2, 3), 9, 1) && at(moved -= V(4, 2), 5, -1));

@@ -41,3 +41,13 @@ if(EXISTS /dev/full)
         message(SEND_ERROR "a device is gone")
     endif()
 endif()
+
+# Where the output is closed, the picture does not take its place.
+if(NOT PROGRAM MATCHES "[.]exe$")
+    execute_process(COMMAND sh -c "exec \"$@\" >&-" sh ${PROGRAM} --svg ${folder}/closed.svg -
+        WORKING_DIRECTORY ${DATA} INPUT_FILE ${DATA}/leaf.motif RESULT_VARIABLE status
+        ERROR_VARIABLE errors)
+    if(NOT status EQUAL 2 OR NOT errors MATCHES "cannot write the output" OR EXISTS ${folder}/closed.svg)
+        message(SEND_ERROR "closed output: status ${status}\n${errors}")
+    endif()
+endif()

@@ -128,3 +128,5 @@ file(COPY ${DATA}/leaf.motif DESTINATION ${SCRATCH})
 expect(STATUS 2 ARGS --svg ${SCRATCH}/leaf.motif ${SCRATCH}/leaf.motif ERR
     "zarnex-stitchplan: the picture would replace the motif ${SCRATCH}/leaf.motif\n")
 expect(STATUS 2 ARGS --png x leaf.motif ERR "zarnex-stitchplan: not an option: \"--png\"${more}")
+expect(STATUS 2 ARGS --svg= leaf.motif ERR "zarnex-stitchplan: --svg needs the name of a file${more}")
+expect(STATUS 2 ARGS -- --svg ERR "zarnex-stitchplan: cannot read --svg: No such file or directory\n")

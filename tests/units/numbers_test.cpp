@@ -11,6 +11,7 @@
 #include <cwchar>
 #include <limits>
 #include <random>
+#include <string>
 
 namespace {
 
@@ -82,6 +83,19 @@ TEST(ZRealNumber, ReadsTheLeadingNumber) {
         EXPECT_EQ(std::signbit(number), std::signbit(row.number));
     }
     EXPECT_TRUE(std::isnan(double(ZRealNumber(ZString(L"nan")))));
+
+    // Where the digits reach beyond what a double holds, and the exponent back again.
+    const std::wstring zeros(400, L'0');
+    const struct {
+        std::wstring text;
+        double number;
+    } longRows[] = {{L"1" + zeros, infinity},
+                    {zeros + L"1e999", infinity},
+                    {L"0." + zeros + L"1e800", infinity},
+                    {L"0." + zeros + L"1", 0.0},
+                    {L"1" + zeros + L"e-800", 0.0}};
+    for (const auto& row : longRows)
+        EXPECT_EQ(double(ZRealNumber(ZString(row.text.c_str()))), row.number) << &row - longRows;
     EXPECT_TRUE(std::signbit(double(ZRealNumber(ZString(L"-0")))));
 }
 

@@ -48,6 +48,7 @@ TEST(YyScanDeathTest, SpaceThatIsMissingOrTooSmallEndsTheProcess) {
     Feed feed("12345678901234567890", text, states); // stays the caller's: on the stack here
     EXPECT_EXIT(feed.yylex(), testing::ExitedWithCode(1), "^1: Token buffer overflow\r?\n$");
     Feed fits("1234567890123456789 mm", text, states);
+    EXPECT_STREQ(fits.yytext, ""); // although the room held a text
     EXPECT_EQ(fits.next(), "1:1234567890123456789");
     EXPECT_EQ(fits.next(), "2:mm");
 }

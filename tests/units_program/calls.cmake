@@ -80,13 +80,18 @@ endif()
 
 # Calls that make no sense.
 foreach(row
-        "no quantity" "not an option: \"--bogus\"|--bogus" "--file needs a value|--file"
+        "no quantity" "no quantity|--check" "no quantity|--unit=in"
+        "not an option: \"--bogus\"|--bogus=1" "not an option: \"-x\"|-x|2 mm"
+        "--file needs the name of a file|--file" "--file needs the name of a file|--file|--check"
+        "--unit needs a unit|--unit=|2 mm" "--check takes no value|--check=2 mm"
         "both a file and texts|--file|quantities.txt|2 mm" "not a unit: \"wide\"|--unit|wide|2"
         "more than one of --check, --file and -|--check|-|2 mm")
     string(REPLACE "|" ";" row "${row}")
     list(POP_FRONT row problem)
     expect(STATUS 2 ARGS ${row} ERR "${name}: ${problem}; ${name} --help tells more\n")
 endforeach()
+expect(STATUS 0 ARGS --unit=in 3 cm OUT "cm   7.6 cm  7.62\n")
+expect(STATUS 1 ARGS -- - ERR "${name}: cannot read \"-\": a sign without digits\n")
 expect(STATUS 1 ARGS -- --5 ERR "${name}: cannot read \"--5\": a sign without digits\n")
 expect(STATUS 0 ARGS --version OUT_MATCHES "^zarnex-units [0-9.]+\n$")
 expect(STATUS 0 ARGS 2 --help OUT_MATCHES "^Usage: zarnex-units ")

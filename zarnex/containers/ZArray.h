@@ -28,6 +28,11 @@
 /// Indices count elements and are 32-bit values. A block of more than 2^31 - 1
 /// bytes cannot be had; asking for one ends the process through abort(), and so
 /// does storage that the heap refuses.
+// Functions are virtual, the destructor is not: hosts rely on the layout.
+#if defined(__GNUC__)
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+#endif
 template <class T>
 class ZArray : public VMAccess {
     static_assert(std::is_trivially_copyable_v<T>);
@@ -135,6 +140,9 @@ private:
     std::uint32_t cacheStart_;
     std::uint32_t growBytes_;
 };
+#if defined(__GNUC__)
+#pragma GCC diagnostic pop
+#endif
 
 template <class T>
 ZArray<T>::ZArray(unsigned int n, unsigned long extra)
@@ -319,10 +327,11 @@ int ZArray<T>::transfer(std::int64_t to, std::int64_t from, std::int64_t count, 
 
 template <class T>
 void ZArray<T>::relay(T* staging, std::int64_t to, std::int64_t from, std::int64_t count) {
-    constexpr std::int64_t size = sizeof(T);
-    const long bytes = static_cast<long>(count * size);
-    check(VMAccess::getBlock(staging, static_cast<long>(from * size), bytes));
-    check(VMAccess::saveBlock(staging, static_cast<long>(to * size), bytes));
+    const auto bytes = [](std::int64_t elements) {
+        return static_cast<long>(static_cast<std::size_t>(elements) * sizeof(T));
+    };
+    check(VMAccess::getBlock(staging, bytes(from), bytes(count)));
+    check(VMAccess::saveBlock(staging, bytes(to), bytes(count)));
 }
 
 template <class T>

@@ -29,6 +29,11 @@ struct Pair {
     double y;
 };
 
+/// a == b, and not a slip: hosts may have compilers warn of == between doubles.
+constexpr bool isExactly(double a, double b) {
+    return a <= b && a >= b;
+}
+
 /// `whole` as a coordinate of the integer type T: where it does not fit, the nearest
 /// value of T.
 template <class T>
@@ -156,7 +161,7 @@ inline Pair normalized(Pair v) {
 
 constexpr Pair projected(Pair v, Pair onto) {
     const double squared = dot(onto, onto);
-    if (squared == 0.0)
+    if (isExactly(squared, 0.0))
         return onto;
     const double share = dot(v, onto) / squared;
     return {share * onto.x, share * onto.y};
@@ -195,9 +200,9 @@ constexpr Pair mapped(Pair p, const double m[2][3], double z) {
 }
 
 inline Pair mirrored(Pair p, Pair a, Pair b) {
-    if (a.y == b.y)
+    if (isExactly(a.y, b.y))
         return {p.x, 2.0 * a.y - p.y};
-    if (a.x == b.x)
+    if (isExactly(a.x, b.x))
         return {2.0 * a.x - p.x, p.y};
     const double m = (b.y - a.y) / (b.x - a.x);
     const double footX = (m * (p.y - a.y) + p.x + m * m * a.x) / (1.0 + m * m);

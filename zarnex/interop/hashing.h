@@ -38,7 +38,6 @@
 #include <zarnex/transforms/ZHashablePointer.h>
 
 #include <cstddef>
-#include <cstdint>
 #include <string_view> // declares std::hash, at far less cost than <functional>
 
 namespace zarnex::detail {
@@ -48,11 +47,11 @@ namespace zarnex::detail {
 /// Number Generators", OOPSLA 2014.
 template <class Number>
 std::size_t hashOfPair(Number x, Number y) {
-    std::uint64_t bits = std::hash<Number>()(x);
+    std::size_t bits = std::hash<Number>()(x);
     bits = bits * 0x9E3779B97F4A7C15u + std::hash<Number>()(y);
     bits = (bits ^ (bits >> 30)) * 0xBF58476D1CE4E5B9u;
     bits = (bits ^ (bits >> 27)) * 0x94D049BB133111EBu;
-    return static_cast<std::size_t>(bits ^ (bits >> 31));
+    return bits ^ (bits >> 31);
 }
 
 template <class Point>

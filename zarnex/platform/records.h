@@ -13,7 +13,7 @@
 
 struct tagPOINT;
 struct tagNONCLIENTMETRICSW;
-typedef struct tagNONCLIENTMETRICSW NONCLIENTMETRICSW;
+typedef tagNONCLIENTMETRICSW NONCLIENTMETRICSW;
 
 #else
 
@@ -44,7 +44,7 @@ struct tagLOGFONTW {
 };
 
 /// The name that the platform's functions use.
-typedef struct tagLOGFONTW LOGFONTW;
+typedef tagLOGFONTW LOGFONTW;
 
 /// Sizes and fonts of the parts of a window outside its client area. Sizes are in pixels.
 struct tagNONCLIENTMETRICSW {
@@ -67,7 +67,7 @@ struct tagNONCLIENTMETRICSW {
 };
 
 /// The name that the platform's functions use.
-typedef struct tagNONCLIENTMETRICSW NONCLIENTMETRICSW;
+typedef tagNONCLIENTMETRICSW NONCLIENTMETRICSW;
 
 static_assert(sizeof(NONCLIENTMETRICSW) == 504, "the layout of the platform's record");
 
@@ -75,6 +75,11 @@ static_assert(sizeof(NONCLIENTMETRICSW) == 504, "the layout of the platform's re
 /// Several libraries declare GUID; whoever comes first sets this macro.
 #define GUID_DEFINED
 
+// The reserved name is the platform's, and part of the names of functions.
+#if defined(__clang__) && __clang_major__ >= 13
+#pragma clang diagnostic push
+#pragma clang diagnostic ignored "-Wreserved-identifier"
+#endif
 /// A globally unique identifier. Its text form is the hexadecimal digits of Data1,
 /// Data2, Data3, the first two bytes of Data4 and the other six, joined by hyphens.
 typedef struct _GUID {
@@ -83,6 +88,9 @@ typedef struct _GUID {
     std::uint16_t Data3;    ///< digits 13 to 16
     unsigned char Data4[8]; ///< the other 16 digits, two a byte
 } GUID;
+#if defined(__clang__) && __clang_major__ >= 13
+#pragma clang diagnostic pop
+#endif
 
 static_assert(sizeof(GUID) == 16, "the layout of the platform's record");
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <zarnex/geometry/formulas.h>
+
 #include <type_traits>
 
 /// @file
@@ -37,7 +39,7 @@ int operator==(const Class& object, Number number) {
     using Quantity = typename Class::Quantity;
     const Quantity& quantity = object;
     const Quantity other(static_cast<double>(number));
-    return double(other) == static_cast<double>(number) && quantity == other;
+    return zarnex::detail::isExactly(other, static_cast<double>(number)) && quantity == other;
 }
 
 template <class Class, class Number, zarnex::detail::IfQuantityAndNumber<Class, Number> = 0>

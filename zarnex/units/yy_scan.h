@@ -25,6 +25,11 @@
 /// The number of the latest number token is one value for the whole process,
 /// which no lock of the engine guards: engines of a host's own must not run
 /// while another thread scans.
+// Functions are virtual, the destructor is not: hosts rely on the layout.
+#if defined(__GNUC__)
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+#endif
 class ZARNEX_API yy_scan {
 public:
     /// Takes space for tokens of up to `size` characters; longer ones are fatal.
@@ -114,3 +119,6 @@ public:
     int yylineno = 1;          ///< 1 and the newlines before this token
     int yyleng = 0;            ///< characters in the token
 };
+#if defined(__GNUC__)
+#pragma GCC diagnostic pop
+#endif

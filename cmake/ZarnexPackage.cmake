@@ -1,0 +1,16 @@
+# What `cpack` packs: everything that is installed, in an archive whose files can be used from
+# wherever it is unpacked. `./dev package` makes the packages that are published.
+set(CPACK_PACKAGE_NAME zarnex-foundation)
+set(CPACK_PACKAGE_VENDOR "Zarnex developers")
+if(WIN32)
+    set(CPACK_GENERATOR ZIP)
+    set(CPACK_SYSTEM_NAME windows-x64)
+else()
+    set(CPACK_GENERATOR TXZ)
+    string(TOLOWER ${CMAKE_SYSTEM_NAME}-${CMAKE_SYSTEM_PROCESSOR} CPACK_SYSTEM_NAME)
+endif()
+set(CPACK_PACKAGE_FILE_NAME ${CPACK_PACKAGE_NAME}-${PROJECT_VERSION}-${CPACK_SYSTEM_NAME})
+set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/beforePacking.cmake)
+set(CPACK_OBJCOPY ${CMAKE_OBJCOPY})
+set(CPACK_VERBATIM_VARIABLES ON)
+include(CPack)

@@ -1,0 +1,42 @@
+#include "units/LineEditor.h"
+#include "units/LineReader.h"
+
+#include "common/Reading.h"
+#include "common/platform.h"
+
+#include <string_view>
+#include <utility>
+
+namespace units {
+
+using namespace host;
+
+namespace {
+
+constexpr int standardInput = 0;
+constexpr int standardOutput = 1;
+
+} // namespace
+
+const char* const LineEditor::help = "";
+
+struct LineEditor::State {
+    std::string prompt;
+    LineReader lines{standardInput, mostBytes, [] {}};
+};
+
+LineEditor::LineEditor(std::string prompt) : state_(std::make_unique<State>()) {
+    state_->prompt = std::move(prompt);
+}
+
+LineEditor::~LineEditor() = default;
+
+bool LineEditor::next(std::string& line) {
+    platform::writeAll(standardOutput, state_->prompt.data(), state_->prompt.size());
+    std::string_view read;
+    const bool found = state_->lines.next(read);
+    line = read;
+    return found;
+}
+
+} // namespace units
