@@ -80,10 +80,16 @@ TEST(CrossProduct, OfIntegersWraps) {
     EXPECT_EQ(crossProduct(&right, &origin, &half, &origin), -2147483648.0);
     const IPoint low(INT_MIN, 0), high(INT_MAX, 0), one(0, 1);
     EXPECT_EQ(crossProduct(&high, &low, &one, &origin), -1.0);
-    EXPECT_EQ(crossProduct(static_cast<IPoint*>(nullptr), &low, &one, &origin), 0.0);
     const DPoint a(5, 1), b(2, 3), c(7, 7), d(1, 5); // (3, -2) and (6, 2)
     EXPECT_EQ(crossProduct(&a, &b, &c, &d), 18.0);
-    EXPECT_EQ(crossProduct(&a, &b, &c, static_cast<DPoint*>(nullptr)), 0.0);
+    for (int missing = 0; missing < 4; ++missing) {
+        const IPoint* whole[] = {&high, &low, &one, &origin};
+        const DPoint* real[] = {&a, &b, &c, &d};
+        whole[missing] = nullptr;
+        real[missing] = nullptr;
+        EXPECT_EQ(crossProduct(whole[0], whole[1], whole[2], whole[3]), 0.0);
+        EXPECT_EQ(crossProduct(real[0], real[1], real[2], real[3]), 0.0);
+    }
 }
 
 // The formula itself, without the short way for turns that are certain.

@@ -36,8 +36,9 @@ TEST(ZStringSet, FormatsNumbers) {
                         std::ptrdiff_t{-1}, 2),
               L"7 8 -9 -1 2");
     EXPECT_EQ(formatted(L"%*d|%*d|%-*d|%%|%5%", 4, 7, -4, 7, 4, 7), L"   7|7   |7   |%|%");
-    EXPECT_EQ(formatted(L"%p", reinterpret_cast<void*>(std::uintptr_t{0xABC})),
-              L"0000000000000ABC");
+    void* const address = reinterpret_cast<void*>(std::uintptr_t{0xABC});
+    EXPECT_EQ(formatted(L"%p|%18p|%-18p|", address, address, address),
+              L"0000000000000ABC|  0000000000000ABC|0000000000000ABC  |");
 }
 
 TEST(ZStringSet, FormatsDoubles) {

@@ -43,6 +43,8 @@ TEST(Utf8, IllFormedSequencesGiveAReplacementForEachMaximalSubpart) {
         {"\xF4\x90\x80\x80", L"\uFFFD\uFFFD\uFFFD\uFFFD"}, // beyond it
         {"\xF8\x88\x80\x80\x80", L"\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD"},
         {"\xE2\x82", L"\uFFFD"}, // cut short by the terminator
+        {"\xE0\xA0", L"\uFFFD"},
+        {"\xF0\x90\x80", L"\uFFFD"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(shown(row.text.c_str()));

@@ -112,6 +112,10 @@ TEST(Lengths, RenderWithTheirLabels) {
     }
     EXPECT_EQ(wide(ZMillimeter(2.5).getString(7, 3)), L"  2.500 mm");
     EXPECT_EQ(wide(ZMillimeter(2.5).getDensityString(-6, 1)), L"2.5    mm");
+    EXPECT_EQ(wide(ZMillimeter(2.5).getDensityStringWithUnits(2)), L"2.50 mm");
+    EXPECT_EQ(wide(ZCentimeter(0.25).getDensityStringWithUnits(2)), L"2.50 mm");
+    EXPECT_EQ(wide(ZInch(0.1).getDensityStringWithUnits(2)), L"2.54 mm");
+    EXPECT_EQ(wide(ZEmbPoint(25.0).getDensityStringWithUnits(2)), L"2.50 mm");
     EXPECT_EQ(wide(ZCentimeter(2.5).getString(1, 0)), L"2 cm");
     EXPECT_EQ(wide(ZInch(2.5).getString(6, 1)), L"   2.5 in");
     EXPECT_EQ(wide(ZEmbPoint(2.5).getString(6, 2)), L"  2.50 pt");
