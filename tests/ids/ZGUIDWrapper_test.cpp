@@ -60,6 +60,7 @@ TEST(ZGUIDWrapper, BuiltInShapesHaveFixedIdentifiers) {
         {&Id::setCircle, &Id::isCircle, L"41117793-7348-476a-bb08-d4f0e60a8d4a"},
         {&Id::setCircleShape, &Id::isCircleShape, L"d282705d-cae3-4e36-945a-9990c0065c55"},
     };
+    EXPECT_EQ(textOf(Id(bead1)), bead1Text);
     Id id(0);
     for (const auto& row : rows) {
         SCOPED_TRACE(shown(row.text));

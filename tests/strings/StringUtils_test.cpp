@@ -132,8 +132,9 @@ TEST(StringUtils, PathsSplitAtTheLastColonSeparatorAndDot) {
     }
     char own[40] = "C:\\dir\\file.txt"; // an output may be the path itself
     char ownDir[20];
-    StringUtils::splitPath(own, own, 40, ownDir, 20, nullptr, 0, nullptr, 0);
+    StringUtils::splitPath(own, own, 40, ownDir, 20, nullptr, 20, own + 39, 0);
     EXPECT_STREQ(ownDir, "\\dir\\");
+    EXPECT_EQ(own[38], '\0') << "an output without room, before which nothing may be written";
     std::string endless(300, 'x');
     endless[258] = '.';
     endless[259] = '/'; // past the 259 units that count

@@ -62,6 +62,7 @@ TEST(YyScanDeathTest, ErrorsNameTheLineUnlessItIsZero) {
     EXPECT_EXIT(feed.yyerror("reason"), testing::ExitedWithCode(1), "^4: reason\r?\n$");
     feed.yylineno = 0;
     EXPECT_EXIT(feed.yyerror("%d"), testing::ExitedWithCode(1), "^%d\r?\n$");
+    EXPECT_EXIT(feed.yyerror(nullptr), testing::ExitedWithCode(1), "^\r?\n$");
 }
 
 TEST(YyScan, PushedBackCharactersComeNextAndTakeBackNewlines) {
