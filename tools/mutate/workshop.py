@@ -41,7 +41,7 @@ REACH = {"platform": ["strings", "runtime", "geometry", "units", "ids"],
 # What does not run the library's code, and the runs under locales except those that may matter.
 UNDER_LOCALE = re.compile("_[a-z]{2}_[A-Z]{2}$")
 LEFT_OUT = re.compile(
-    "abi|boundary|fuzz|package|threads|(?!strings|units).*_[a-z]{2}_[A-Z]{2}$|.*_fr_FR$")
+    "abi|boundary|debugger|docs|fuzz|package|programs|threads|(?!strings|units).*_[a-z]{2}_[A-Z]{2}$|.*_fr_FR$")
 
 
 def run(command, **options):
