@@ -38,9 +38,11 @@ install(FILES
     DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs
     DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development
-    FILES_MATCHING PATTERN "*.md" PATTERN "*.svg" PATTERN man EXCLUDE)
+    FILES_MATCHING PATTERN "*.md" PATTERN "*.svg"
+    PATTERN man EXCLUDE PATTERN pictures EXCLUDE PATTERN site EXCLUDE)
 
-# gdb loads the printers by itself where they stand under the full path of the library.
+# gdb loads the printers by itself where they stand under the full path of the library, which is
+# known when it is installed.
 set(debugger_files ${PROJECT_SOURCE_DIR}/tools/debugger)
 if(WIN32)
     set(printers ${debugger_files}/zarnex_gdb.py)
@@ -48,7 +50,8 @@ if(WIN32)
 else()
     set(printers ${debugger_files}/zarnex_gdb.py
         ${debugger_files}/libzarnex-foundation.so.${PROJECT_VERSION}-gdb.py)
-    set(printers_dir ${CMAKE_INSTALL_DATADIR}/gdb/auto-load${CMAKE_INSTALL_FULL_LIBDIR})
+    set(printers_dir
+        "${CMAKE_INSTALL_DATADIR}/gdb/auto-load\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}")
 endif()
 install(FILES ${printers} DESTINATION ${printers_dir} COMPONENT development)
 install(FILES ${debugger_files}/zarnex.natvis

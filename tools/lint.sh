@@ -5,7 +5,8 @@ lint_packages=(clang-format-14 mandoc shellcheck python3)
 
 # All checks print what they find, one place a line, and fail if there is anything.
 
-tracked() { git ls-files -- "$@"; }
+# New files count before they are added.
+tracked() { git ls-files --cached --others --exclude-standard -- "$@"; }
 
 lint_format() { tracked '*.cpp' '*.h' | xargs -P "$jobs" -n 16 clang-format-14 --dry-run --Werror; }
 
@@ -30,7 +31,7 @@ for path in sys.argv[1:]:
 # make wants tabs.
 lint_text() {
     local files file status=0
-    mapfile -t files < <(git grep -Il '' -- ':!fuzz/seeds' ':!fuzz/finds' ':!examples/data' \
+    mapfile -t files < <(git grep --untracked -Il '' -- ':!fuzz/seeds' ':!fuzz/finds' ':!examples/data' \
         ':!*.tsv' ':!*.svg' ':!debian/rules')
     if grep -nP '[ \t\r]+$|\t' -- "${files[@]}"; then
         status=1
@@ -50,7 +51,8 @@ lint_links() { python3 tests/docs/pages.py; }
 # clang-tidy of the files named, as the build for Linux compiles them.
 lint_sources() {
     [[ -e build/linux/build.ninja ]] || configure linux ON
-    printf '%s\n' "$@" | xargs -P "$jobs" -n 1 clang-tidy-14 --quiet -p build/linux
+    printf '%s\n' "$@" | xargs -P "$jobs" -n 1 clang-tidy-14 --quiet -p build/linux \
+        2> >(grep -v 'warnings generated' >&2)
 }
 
 run_lint() {
@@ -69,7 +71,12 @@ run_lint() {
     rm -f "$log"
     if [[ $# != 0 ]]; then
         need clang-tidy-14 || fail "Cannot lint: $reason"
-        lint_sources "$@" || failed+=(clang-tidy)
+        if lint_sources "$@"; then
+            say "clang-tidy: nothing found"
+        else
+            say "clang-tidy: FOUND"
+            failed+=(clang-tidy)
+        fi
     fi
     [[ ${#failed[@]} == 0 ]] || fail "Lint: ${failed[*]}"
 }

@@ -14,7 +14,7 @@ const char* const helpText =
        zarnex-units [--unit UNIT] --file FILE | -
        zarnex-units [--unit UNIT]
 
-Reads quantities as people type them, such as "2.5 mm", 3" and "6 stitches".
+Reads quantities as people type them, such as "2.5 mm", "3 inch" and "6 spi".
 Each TEXT is one; it is printed in every unit that it converts to, or in UNIT
 alone: the unit, the display text and the exact number. Without a text, and on
 a terminal, the program asks for them.
@@ -31,7 +31,7 @@ Status: 0 all texts are valid, 1 some are not, 2 the call, a file or the output
 is at fault.
 
   zarnex-units "2.5 mm"
-  zarnex-units --unit in 3 cm
+  zarnex-units --unit in "3" cm    # 3 inches, in cm
   echo 1 in | zarnex-units -
 )";
 

@@ -8,6 +8,7 @@
 #include <iomanip>
 #include <sstream>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -53,10 +54,13 @@ TEST(Streams, QuantitiesShowWhatTheyDisplay) {
     };
     const ZMillimeter fine(2.34);
     ZMillimeter writable(2.34);
+    ZCentimeterPerSec speed(2.5);
     EXPECT_EQ(text(fine), wide(ZString(writable))); // two decimals, const or not
     EXPECT_EQ(text(fine), L"2.34 mm");
     EXPECT_EQ(text(ZInch(1.0)), L"1.00 in");
     EXPECT_EQ(text(ZEmbPoint(254.0)), L"254.0 pt");
+    EXPECT_EQ(text(ZMillimeterPerSec(2.5)), L"2.50 mm/s");
+    EXPECT_EQ(text(speed), wide(ZString(std::as_const(speed))));
     EXPECT_EQ(text(ZNumber(42)), wide(ZString(ZNumber(42))));
     EXPECT_EQ(text(ZPercent(50)), wide(ZString(ZPercent(50))));
 

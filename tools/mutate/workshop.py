@@ -30,8 +30,8 @@ MOST_UNITS = {"zarnex": 3, "tests": 2}  # compiled for a mutant in a header
 # Whose tests run code of a folder, beside its own and the trial of memory.
 REACH = {"platform": ["strings", "runtime", "geometry", "units", "ids"],
          "runtime": ["containers", "geometry", "units"],
-         "containers": ["strings", "geometry", "transforms", "units", "ids"],
-         "strings": ["units", "ids"],
+         "containers": ["strings", "interop", "geometry", "transforms", "units", "ids"],
+         "strings": ["interop", "units", "ids"],
          "bigint": [],
          "geometry": ["degenerate", "transforms", "stitchplan"],
          "transforms": ["degenerate", "stitchplan"],

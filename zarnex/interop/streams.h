@@ -24,6 +24,7 @@
 #include <zarnex/interop/standardStrings.h>
 #include <zarnex/strings/ZString.h>
 #include <zarnex/strings/ZWideString.h>
+#include <zarnex/units/ZMillimeter.h>
 
 #include <iosfwd>
 #include <type_traits>
@@ -73,13 +74,17 @@ inline StreamText asText(const wchar_t* text) {
 }
 /// @}
 
-/// The text that a quantity displays: that of the conversion of an object that is not const, so
-/// a ZMillimeter has the decimals that it needs.
+/// The text that a quantity displays: that of the conversion of a const object, so that a speed has
+/// two decimals and not twelve; a ZMillimeter has the decimals that it needs.
+/// @{
 template <class Class, detail::IfQuantity<Class> = 0>
 StreamText asText(const Class& quantity) {
-    Class shown = quantity;
-    return StreamText(ZString(shown));
+    return StreamText(ZString(quantity));
 }
+inline StreamText asText(const ZMillimeter& length) {
+    return StreamText(length.getString());
+}
+/// @}
 
 } // namespace zarnex
 
