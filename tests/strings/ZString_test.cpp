@@ -240,8 +240,8 @@ TEST(ZString, ExportsToPlainBuffers) {
     char bytes[8];
     EXPECT_EQ(string.copyString(bytes, 8), 4);
     EXPECT_EQ(string.copyString(bytes, 3), -1);
-    EXPECT_EQ(string.copyString(bytes, 1), -1);
     EXPECT_STREQ(bytes, "ab");
+    EXPECT_EQ(string.copyString(bytes, 1), -1);
     EXPECT_EQ(string.copyString(bytes, 0), 4);
     EXPECT_EQ(string.copyString(static_cast<char*>(nullptr), 8), 4);
     wchar_t wides[8];
