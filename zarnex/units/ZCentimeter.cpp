@@ -17,7 +17,7 @@ using namespace zarnex::detail;
 ZCentimeter::ZCentimeter(double centimeters) : ZCentimeter(centimeters, L"cm", unitCentimeter) {}
 
 ZCentimeter::ZCentimeter(const ZString& text) : ZCentimeter() {
-    setStringWithUnits(text, unitNumber);
+    ZCentimeter::setStringWithUnits(text, unitNumber);
 }
 
 ZCentimeter::ZCentimeter(double value, const wchar_t* label, int unitId)
