@@ -1,6 +1,7 @@
 """The figures of a run as Markdown."""
 
 import collections
+import re
 import sys
 
 
@@ -59,4 +60,5 @@ def listing(heading, entries):
     print(f"\n{heading}:\n")
     for mutant, reason in sorted(entries, key=lambda entry: (entry[0].file, entry[0].line)):
         change = mutant.change.replace("*", "\\*") if "`" not in mutant.change else mutant.change
+        change = re.sub("`([^`]*'[^`]*)`", r"``\1``", change)  # else Doxygen misreads it
         print(f"- {mutant.file}:{mutant.line}: {change}" + (f": {reason}" if reason else ""))
