@@ -18,7 +18,8 @@ void geometryRows(Suite& suite);
 void figureRows(Suite& suite); // of the topic geometry, as the next
 void rootRows(Suite& suite);
 void transformRows(Suite& suite);
-void chainRows(Suite& suite); // of the topic transforms
+void matrixRows(Suite& suite); // of the topic transforms, as the next
+void chainRows(Suite& suite);
 void randomRows(Suite& suite);
 void identifierRows(Suite& suite);
 void bigIntegerRows(Suite& suite);

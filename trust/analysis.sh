@@ -30,7 +30,7 @@ cpp_check() {
     cppcheck --quiet --error-exitcode=1 --std=c++20 --language=c++ -j "$jobs" -I . --inline-suppr \
         --enable=warning,performance,portability --suppress=operatorEqVarError \
         --suppress=noDestructor:zarnex/runtime/internal/Immortal.h \
-        --suppress=memsetClass:zarnex/containers/ZXArrayDefinitions.h \
+        --suppress=memsetClass:zarnex/containers/arrayStorage.h \
         --suppress=virtualCallInConstructor:zarnex/containers/ZGroupable.h \
         --suppress=uninitMemberVar --suppress=uninitDerivedMemberVar \
         "${unread[@]/#/--suppress=syntaxError:}" -D__linux__ -D__x86_64__ -D__SSE2__ -D__GNUC__=12 zarnex examples
@@ -68,7 +68,7 @@ row 'shellcheck' $(($(tracked '*.sh' | wc -l) + 2)) lint_shell
 
 installed() { # BUILD PREFIX: its binary files
     cmake --install "$1" --prefix "$2" >&2
-    find "$2" \( -name '*.so.*.*' -o -path '*/bin/*' \) -type f | sort
+    find "$2" \( -path '*/lib/*.so.*.*' -o -path '*/bin/*' \) -type f | sort
 }
 
 mapfile -t linux_files < <(installed build/linux "$work/linux")
@@ -91,7 +91,7 @@ done
 
 elsewhere=$work/elsewhere/in-a-folder/of-another-length
 mkdir -p "$elsewhere"
-cp -r CMakeLists.txt CMakePresets.json cmake zarnex examples "$elsewhere"
+tracked '*' | xargs -d '\n' cp --parents -t "$elsewhere"
 for preset in linux windows; do
     (
         cd "$elsewhere" || exit

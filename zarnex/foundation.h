@@ -21,6 +21,7 @@
 #include <zarnex/containers/ZSortList.h>
 #include <zarnex/containers/ZXArray.h>
 #include <zarnex/containers/ZXArrayDefinitions.h>
+#include <zarnex/containers/arrayStorage.h>
 #include <zarnex/geometry/DPoint.h>
 #include <zarnex/geometry/DRECT.h>
 #include <zarnex/geometry/DVector.h>
@@ -65,6 +66,7 @@
 #include <zarnex/strings/ZWideString.h>
 #include <zarnex/strings/conversions.h>
 #include <zarnex/strings/hashFunctions.h>
+#include <zarnex/strings/textOperators.h>
 #include <zarnex/transforms/ArbTrans.h>
 #include <zarnex/transforms/CompositeTrans.h>
 #include <zarnex/transforms/IdTrans.h>
