@@ -68,7 +68,7 @@ row 'shellcheck' $(($(tracked '*.sh' | wc -l) + 2)) lint_shell
 
 installed() { # BUILD PREFIX: its binary files
     cmake --install "$1" --prefix "$2" >&2
-    find "$2" \( -path '*/lib/*.so.*.*' -o -path '*/bin/*' \) -type f | sort
+    find "$2" \( -name '*.so.*.*' -o -path '*/bin/*' \) ! -name '*.py' -type f | sort
 }
 
 mapfile -t linux_files < <(installed build/linux "$work/linux")

@@ -52,6 +52,7 @@
 #include <zarnex/interop/hashing.h>
 #include <zarnex/interop/standardStrings.h>
 #include <zarnex/interop/streams.h>
+#include <zarnex/platform/PlatformLock.h>
 #include <zarnex/platform/records.h>
 #include <zarnex/runtime/MiniGuard.h>
 #include <zarnex/runtime/MiniLock.h>

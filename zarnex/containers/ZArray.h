@@ -232,7 +232,7 @@ int ZArray<T>::restore() {
     if (cache_ == nullptr)
         cache_ = new (std::nothrow) T[cacheLength_]();
     if (cache_ == nullptr)
-        zarnex::exitFatally("failed alloc\n", 1);
+        zarnex::detail::exitWithoutMemory();
     getBlock();
     return 0;
 }

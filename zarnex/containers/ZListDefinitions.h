@@ -6,24 +6,7 @@
 #include <zarnex/containers/ZList.h>
 #include <zarnex/runtime/exiting.h>
 
-#include <new>
 #include <type_traits>
-
-namespace zarnex::detail {
-
-/// Without the size that a delete expression hands over: the runtime only drops it, by one
-/// more call for each node.
-template <class T>
-void freeNode(ZListNode<T>* node) {
-    if constexpr (alignof(ZListNode<T>) > __STDCPP_DEFAULT_NEW_ALIGNMENT__) {
-        delete node;
-    } else {
-        node->~ZListNode<T>();
-        ::operator delete(node);
-    }
-}
-
-} // namespace zarnex::detail
 
 template <class T>
 ZARNEX_TEMPLATE_INLINE ZList<T>::ZList() {}

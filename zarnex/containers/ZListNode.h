@@ -1,5 +1,7 @@
 #pragma once
 
+#include <new>
+
 /// One heap node of a ZList: the element and its neighbours in the ring.
 template <class T>
 struct ZListNode {
@@ -15,3 +17,19 @@ struct ZListNode {
     ZListNode* prev;
     /// @}
 };
+
+namespace zarnex::detail {
+
+/// Without the size that a delete expression hands over: the runtime only drops it, by one
+/// more call for each node.
+template <class T>
+void freeNode(ZListNode<T>* node) {
+    if constexpr (alignof(ZListNode<T>) > __STDCPP_DEFAULT_NEW_ALIGNMENT__) {
+        delete node;
+    } else {
+        node->~ZListNode<T>();
+        ::operator delete(node);
+    }
+}
+
+} // namespace zarnex::detail

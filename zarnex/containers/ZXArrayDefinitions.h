@@ -64,7 +64,7 @@ ZARNEX_TEMPLATE_INLINE ZXArray<T>::ZXArray(const T* values, long long n, int ste
         data_ = zarnex::detail::resized<T>(nullptr, 0, allocLength_);
     }
     if (data_ == nullptr)
-        zarnex::exitFatally("failed alloc\n", 1);
+        zarnex::detail::exitWithoutMemory();
     length_ = static_cast<int>(n);
     std::copy_n(values, n, data_);
 }
@@ -302,7 +302,7 @@ ZARNEX_TEMPLATE_INLINE void ZXArray<T>::reserve(long long n) {
     if (n <= (std::numeric_limits<int>::max)())
         growArray(static_cast<int>(n), 1);
     if (n > allocLength_)
-        zarnex::exitFatally("failed alloc\n", 1);
+        zarnex::detail::exitWithoutMemory();
 }
 
 template <class T>

@@ -5,6 +5,7 @@
 /// posix/ and windows/ each define all of them; nothing else in the library
 /// calls the system. Not installed.
 
+#include <zarnex/platform/PlatformLock.h>
 #include <zarnex/platform/records.h>
 
 #include <cstddef>

@@ -97,13 +97,3 @@ static_assert(sizeof(GUID) == 16, "the layout of the platform's record");
 #endif // GUID_DEFINED
 
 #endif // _WIN32
-
-namespace zarnex {
-
-/// Room for the platform's recursive lock: a critical section on Windows, a
-/// recursive mutex on Linux. The platform sources assert that it fits.
-struct PlatformLock {
-    alignas(8) unsigned char bytes[40]; ///< only for the sources of the platform
-};
-
-} // namespace zarnex

@@ -1,7 +1,6 @@
 #include <zarnex/runtime/MiniLock.h>
 
 #include <zarnex/platform/platform.h>
-#include <zarnex/runtime/MiniGuard.h>
 
 MiniLock::MiniLock() {
     zarnex::platform::createLock(section_);
@@ -20,18 +19,4 @@ void MiniLock::lock() {
 
 void MiniLock::unlock() {
     zarnex::platform::releaseLock(section_);
-}
-
-MiniGuard::MiniGuard(MiniLock& lock) : lock_(&lock) {
-    lock_->lock();
-}
-
-MiniGuard::~MiniGuard() {
-    lock_->unlock();
-}
-
-MiniGuard::MiniGuard(const MiniGuard&) = default;
-
-MiniLock& MiniGuard::getLock() {
-    return *lock_;
 }

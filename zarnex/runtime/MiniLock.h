@@ -1,7 +1,7 @@
 #pragma once
 
 #include <zarnex/config.h>
-#include <zarnex/platform/records.h>
+#include <zarnex/platform/PlatformLock.h>
 
 /// A recursive mutual-exclusion lock.
 ///

@@ -22,4 +22,13 @@ namespace zarnex {
 /// ends the process through exit() with `status`.
 [[noreturn]] ZARNEX_API void exitFatally(const char* message, int status);
 
+namespace detail {
+
+/// The way out where storage that the caller relies on cannot be had.
+[[noreturn]] inline void exitWithoutMemory() {
+    exitFatally("failed alloc\n", 1);
+}
+
+} // namespace detail
+
 } // namespace zarnex

@@ -97,7 +97,7 @@ ZString::operator wchar_t*() {
             empty();
         array_.setAllocSize(rawRoom);
         if (array_.allocLength() < rawRoom)
-            zarnex::exitFatally("failed alloc\n", 1);
+            zarnex::detail::exitWithoutMemory();
     }
     return array_;
 }

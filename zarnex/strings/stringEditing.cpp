@@ -11,6 +11,14 @@ bool isBlank(wchar_t unit) {
     return unit == L' ' || unit == L'\t' || unit == L'\n' || unit == L'\r';
 }
 
+template <class Map>
+void mapUnits(ZXArray<wchar_t>& array, Map map) {
+    wchar_t* const buffer = array;
+    const int slots = array.length();
+    for (int i = 0; i < slots && buffer[i] != L'\0'; ++i)
+        buffer[i] = map(buffer[i]);
+}
+
 } // namespace
 
 void ZString::findAndReplace(const wchar_t* find, const wchar_t* replace) {
@@ -92,17 +100,11 @@ void ZString::trimRight() {
 }
 
 void ZString::toLower() {
-    wchar_t* const buffer = array_;
-    const int slots = array_.length();
-    for (int i = 0; i < slots && buffer[i] != L'\0'; ++i)
-        buffer[i] = lowerCase(buffer[i]);
+    mapUnits(array_, [](wchar_t unit) { return lowerCase(unit); });
 }
 
 void ZString::toUpper() {
-    wchar_t* const buffer = array_;
-    const int slots = array_.length();
-    for (int i = 0; i < slots && buffer[i] != L'\0'; ++i)
-        buffer[i] = upperCase(buffer[i]);
+    mapUnits(array_, [](wchar_t unit) { return upperCase(unit); });
 }
 
 void ZString::set(const wchar_t* format, ...) {

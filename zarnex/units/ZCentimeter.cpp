@@ -7,7 +7,6 @@
 #include <zarnex/units/internal/display.h>
 #include <zarnex/units/internal/factors.h>
 #include <zarnex/units/internal/reading.h>
-#include <zarnex/units/internal/textAs.h>
 
 #include <utility>
 
@@ -59,26 +58,22 @@ ZCentimeter& ZCentimeter::operator=(const ZString& text) {
 }
 
 ZCentimeter& ZCentimeter::operator=(const ZMillimeter& length) {
-    value_ = convertAssigned(Target::centimeter, length, unitMillimeter);
-    valid_ = length.isValid();
+    assignConverted(Target::centimeter, length, unitMillimeter, value_, valid_);
     return *this;
 }
 
 ZCentimeter& ZCentimeter::operator=(const ZInch& length) {
-    value_ = convertAssigned(Target::centimeter, length, unitInch);
-    valid_ = length.isValid();
+    assignConverted(Target::centimeter, length, unitInch, value_, valid_);
     return *this;
 }
 
 ZCentimeter& ZCentimeter::operator=(const ZEmbPoint& length) {
-    value_ = convertAssigned(Target::centimeter, length, unitEmbPoint);
-    valid_ = length.isValid();
+    assignConverted(Target::centimeter, length, unitEmbPoint, value_, valid_);
     return *this;
 }
 
 ZCentimeter& ZCentimeter::operator=(const ZSpi& density) {
-    value_ = convertAssigned(Target::centimeter, density, unitSpi);
-    valid_ = density.isValid();
+    assignConverted(Target::centimeter, density, unitSpi, value_, valid_);
     return *this;
 }
 
@@ -129,8 +124,7 @@ ZString ZCentimeter::getStringWithUnits(int unit) {
 }
 
 ZString ZCentimeter::getDensityStringWithUnits(int unit) {
-    return unit == unitMillimeter ? ZMillimeter(*this).getDensityString(4, 2)
-                                  : getStringWithUnits(unit);
+    return densityTextAs(*this, unit);
 }
 
 // No virtual operation of the library changes the object; that of a host that does

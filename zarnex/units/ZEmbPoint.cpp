@@ -8,7 +8,6 @@
 #include <zarnex/units/internal/display.h>
 #include <zarnex/units/internal/factors.h>
 #include <zarnex/units/internal/reading.h>
-#include <zarnex/units/internal/textAs.h>
 
 #include <cmath>
 
@@ -58,20 +57,17 @@ ZEmbPoint& ZEmbPoint::operator=(const ZString& text) {
 }
 
 ZEmbPoint& ZEmbPoint::operator=(const ZMillimeter& length) {
-    value_ = convertAssigned(Target::embPoint, length, unitMillimeter);
-    valid_ = length.isValid();
+    assignConverted(Target::embPoint, length, unitMillimeter, value_, valid_);
     return *this;
 }
 
 ZEmbPoint& ZEmbPoint::operator=(const ZCentimeter& length) {
-    value_ = convertAssigned(Target::embPoint, length, unitCentimeter);
-    valid_ = length.isValid();
+    assignConverted(Target::embPoint, length, unitCentimeter, value_, valid_);
     return *this;
 }
 
 ZEmbPoint& ZEmbPoint::operator=(const ZInch& length) {
-    value_ = convertAssigned(Target::embPoint, length, unitInch);
-    valid_ = length.isValid();
+    assignConverted(Target::embPoint, length, unitInch, value_, valid_);
     return *this;
 }
 
@@ -80,8 +76,7 @@ ZEmbPoint& ZEmbPoint::operator=(const ZSpi& density) {
         valid_ = 0;
         return *this;
     }
-    value_ = convertAssigned(Target::embPoint, density, unitSpi);
-    valid_ = density.isValid();
+    assignConverted(Target::embPoint, density, unitSpi, value_, valid_);
     return *this;
 }
 
@@ -124,8 +119,7 @@ ZString ZEmbPoint::getStringWithUnits(int unit) const {
 }
 
 ZString ZEmbPoint::getDensityStringWithUnits(int unit) const {
-    return unit == unitMillimeter ? ZMillimeter(*this).getDensityString(4, 2)
-                                  : getStringWithUnits(unit);
+    return densityTextAs(*this, unit);
 }
 
 int ZEmbPoint::operator==(const ZEmbPoint& other) const {

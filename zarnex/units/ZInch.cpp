@@ -8,7 +8,6 @@
 #include <zarnex/units/internal/factors.h>
 #include <zarnex/units/internal/labels.h>
 #include <zarnex/units/internal/reading.h>
-#include <zarnex/units/internal/textAs.h>
 
 #include <utility>
 
@@ -51,26 +50,22 @@ ZInch& ZInch::operator=(const ZString& text) {
 }
 
 ZInch& ZInch::operator=(const ZMillimeter& length) {
-    value_ = convertAssigned(Target::inch, length, unitMillimeter);
-    valid_ = length.isValid();
+    assignConverted(Target::inch, length, unitMillimeter, value_, valid_);
     return *this;
 }
 
 ZInch& ZInch::operator=(const ZCentimeter& length) {
-    value_ = convertAssigned(Target::inch, length, unitCentimeter);
-    valid_ = length.isValid();
+    assignConverted(Target::inch, length, unitCentimeter, value_, valid_);
     return *this;
 }
 
 ZInch& ZInch::operator=(const ZEmbPoint& length) {
-    value_ = convertAssigned(Target::inch, length, unitEmbPoint);
-    valid_ = length.isValid();
+    assignConverted(Target::inch, length, unitEmbPoint, value_, valid_);
     return *this;
 }
 
 ZInch& ZInch::operator=(const ZSpi& density) {
-    value_ = convertAssigned(Target::inch, density, unitSpi);
-    valid_ = density.isValid();
+    assignConverted(Target::inch, density, unitSpi, value_, valid_);
     return *this;
 }
 
@@ -113,8 +108,7 @@ ZString ZInch::getStringWithUnits(int unit) const {
 }
 
 ZString ZInch::getDensityStringWithUnits(int unit) const {
-    return unit == unitMillimeter ? ZMillimeter(*this).getDensityString(4, 2)
-                                  : getStringWithUnits(unit);
+    return densityTextAs(*this, unit);
 }
 
 int ZInch::operator==(const ZInch& other) const {

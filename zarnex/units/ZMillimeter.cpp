@@ -10,7 +10,6 @@
 #include <zarnex/units/internal/factors.h>
 #include <zarnex/units/internal/labels.h>
 #include <zarnex/units/internal/reading.h>
-#include <zarnex/units/internal/textAs.h>
 
 #include <cmath>
 #include <utility>
@@ -52,26 +51,22 @@ ZMillimeter& ZMillimeter::operator=(const ZString& text) {
 }
 
 ZMillimeter& ZMillimeter::operator=(const ZCentimeter& length) {
-    value_ = convertAssigned(Target::millimeter, length, unitCentimeter);
-    valid_ = length.isValid();
+    assignConverted(Target::millimeter, length, unitCentimeter, value_, valid_);
     return *this;
 }
 
 ZMillimeter& ZMillimeter::operator=(const ZInch& length) {
-    value_ = convertAssigned(Target::millimeter, length, unitInch);
-    valid_ = length.isValid();
+    assignConverted(Target::millimeter, length, unitInch, value_, valid_);
     return *this;
 }
 
 ZMillimeter& ZMillimeter::operator=(const ZEmbPoint& length) {
-    value_ = convertAssigned(Target::millimeter, length, unitEmbPoint);
-    valid_ = length.isValid();
+    assignConverted(Target::millimeter, length, unitEmbPoint, value_, valid_);
     return *this;
 }
 
 ZMillimeter& ZMillimeter::operator=(const ZSpi& density) {
-    value_ = convertAssigned(Target::millimeter, density, unitSpi);
-    valid_ = density.isValid();
+    assignConverted(Target::millimeter, density, unitSpi, value_, valid_);
     return *this;
 }
 

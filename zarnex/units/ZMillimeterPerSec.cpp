@@ -50,27 +50,25 @@ ZMillimeterPerSec& ZMillimeterPerSec::operator=(const ZString& text) {
     return *this;
 }
 
+// By the row of millimetres: that of speeds refuses the units which are assigned here.
+
 ZMillimeterPerSec& ZMillimeterPerSec::operator=(const ZCentimeter& length) {
-    value_ = convertAssigned(Target::millimeter, length, unitCentimeter);
-    valid_ = length.isValid();
+    assignConverted(Target::millimeter, length, unitCentimeter, value_, valid_);
     return *this;
 }
 
 ZMillimeterPerSec& ZMillimeterPerSec::operator=(const ZEmbPoint& length) {
-    value_ = convertAssigned(Target::millimeter, length, unitEmbPoint);
-    valid_ = length.isValid();
+    assignConverted(Target::millimeter, length, unitEmbPoint, value_, valid_);
     return *this;
 }
 
 ZMillimeterPerSec& ZMillimeterPerSec::operator=(const ZInch& length) {
-    value_ = convertAssigned(Target::millimeter, length, unitInch);
-    valid_ = length.isValid();
+    assignConverted(Target::millimeter, length, unitInch, value_, valid_);
     return *this;
 }
 
 ZMillimeterPerSec& ZMillimeterPerSec::operator=(const ZSpi& density) {
-    value_ = convertAssigned(Target::millimeter, density, unitSpi);
-    valid_ = density.isValid();
+    assignConverted(Target::millimeter, density, unitSpi, value_, valid_);
     return *this;
 }
 

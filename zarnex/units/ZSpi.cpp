@@ -8,7 +8,6 @@
 #include <zarnex/units/internal/display.h>
 #include <zarnex/units/internal/factors.h>
 #include <zarnex/units/internal/reading.h>
-#include <zarnex/units/internal/textAs.h>
 
 using namespace zarnex;
 using namespace zarnex::detail;
@@ -53,26 +52,22 @@ ZSpi& ZSpi::operator=(const ZString& text) {
 }
 
 ZSpi& ZSpi::operator=(const ZMillimeter& length) {
-    value_ = convertAssigned(Target::spi, length, unitMillimeter);
-    valid_ = length.isValid();
+    assignConverted(Target::spi, length, unitMillimeter, value_, valid_);
     return *this;
 }
 
 ZSpi& ZSpi::operator=(const ZMillimeterPerSec& speed) {
-    value_ = convertAssigned(Target::spi, speed, unitMillimeterPerSec);
-    valid_ = speed.isValid();
+    assignConverted(Target::spi, speed, unitMillimeterPerSec, value_, valid_);
     return *this;
 }
 
 ZSpi& ZSpi::operator=(const ZCentimeter& length) {
-    value_ = convertAssigned(Target::spi, length, unitCentimeter);
-    valid_ = length.isValid();
+    assignConverted(Target::spi, length, unitCentimeter, value_, valid_);
     return *this;
 }
 
 ZSpi& ZSpi::operator=(const ZInch& length) {
-    value_ = convertAssigned(Target::spi, length, unitInch);
-    valid_ = length.isValid();
+    assignConverted(Target::spi, length, unitInch, value_, valid_);
     return *this;
 }
 
@@ -121,8 +116,7 @@ ZString ZSpi::getStringWithUnits(int unit) const {
 }
 
 ZString ZSpi::getDensityStringWithUnits(int unit) const {
-    return unit == unitMillimeter ? ZMillimeter(*this).getDensityString(4, 2)
-                                  : getStringWithUnits(unit);
+    return densityTextAs(*this, unit);
 }
 
 int ZSpi::operator==(const ZSpi& other) const {

@@ -1,7 +1,8 @@
 #include <zarnex/units/yy_scan.h>
 
 #include <zarnex/runtime/exiting.h>
-#include <zarnex/units/internal/tokens.h>
+#include <zarnex/units/internal/scannedNumber.h>
+#include <zarnex/units/internal/tokenTables.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -119,7 +120,7 @@ int yy_scan::yystep() {
     if (accepted) {
         const int token = tokenRules[tokenAutomaton.rule[states[length]]].token;
         if (token == zarnex::unitNumber)
-            readNumber(text, text + yyleng);
+            storeScannedNumber(text, text + yyleng);
         return token;
     }
     if (atEnd)

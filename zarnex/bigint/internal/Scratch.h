@@ -13,7 +13,7 @@ namespace zarnex::detail {
 inline Limb* allocateLimbs(Size count) {
     Limb* const limbs = new (std::nothrow) Limb[static_cast<std::size_t>(count)];
     if (limbs == nullptr)
-        exitFatally("failed alloc\n", 1);
+        exitWithoutMemory();
     return limbs;
 }
 

@@ -52,7 +52,7 @@ private:
         const std::size_t room = (std::max)(2 * room_, length_ + count);
         Char* const larger = new (std::nothrow) Char[room];
         if (larger == nullptr)
-            exitFatally("failed alloc\n", 1);
+            exitWithoutMemory();
         std::copy_n(data_, length_, larger);
         heap_.reset(larger);
         data_ = larger;

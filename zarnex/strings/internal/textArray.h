@@ -103,7 +103,7 @@ template <class Char>
 void copyArray(ZXArray<Char>& array, const ZXArray<Char>& other) {
     array = other;
     if (array.allocLength() < other.allocLength())
-        exitFatally("failed alloc\n", 1);
+        exitWithoutMemory();
 }
 
 /// Takes the slots in use and the text of `other`, cut to those slots.

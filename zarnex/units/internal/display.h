@@ -3,6 +3,8 @@
 /// How a quantity class renders its value.
 
 #include <zarnex/strings/ZString.h>
+#include <zarnex/units/ZMillimeter.h>
+#include <zarnex/units/unitIds.h>
 
 namespace zarnex::detail {
 
@@ -14,5 +16,21 @@ ZString labelledText(double value, int width, int precision, const ZString& labe
 
 /// 2 if `hundredths`, whole hundredths of a unit, need two decimals, else 1.
 int decimalsFor(int hundredths);
+
+/// Assigns `source` to a fresh Quantity and renders that, as a non-const object.
+template <class Quantity, class Source>
+ZString textAs(const Source& source) {
+    Quantity quantity(0.0);
+    quantity = source;
+    return quantity.operator ZString();
+}
+
+/// For millimetres what ZMillimeter::getDensityString() makes of `source`, for other units its
+/// own text.
+template <class Source>
+ZString densityTextAs(Source& source, int unit) {
+    return unit == unitMillimeter ? ZMillimeter(source).getDensityString(4, 2)
+                                  : source.getStringWithUnits(unit);
+}
 
 } // namespace zarnex::detail

@@ -36,4 +36,11 @@ int setConverted(Target target, double value, int unit, double& stored, Flag& va
 /// the far side of a reciprocal gives 0.0.
 double convertAssigned(Target target, double value, int unit);
 
+/// What the assignments do: `stored` and `valid` are those of `source`, which counts as `unit`.
+template <class Source, class Flag>
+void assignConverted(Target target, const Source& source, int unit, double& stored, Flag& valid) {
+    stored = convertAssigned(target, source, unit);
+    valid = source.isValid();
+}
+
 } // namespace zarnex::detail

@@ -1,6 +1,7 @@
-#include <zarnex/units/internal/TextTokens.h>
+#include <zarnex/units/internal/TextTokenizer.h>
 
-#include <zarnex/units/internal/tokens.h>
+#include <zarnex/units/internal/scannedNumber.h>
+#include <zarnex/units/internal/tokenTables.h>
 
 #include <algorithm>
 #include <cctype>
@@ -25,11 +26,11 @@ bool isSpace(wchar_t c) {
     return isScannedSpace(scannedByte(scannedCharacter(c)));
 }
 
-void readNumberIn(const wchar_t* begin, const wchar_t* end) {
+void storeNumberOf(const wchar_t* begin, const wchar_t* end) {
     char digits[tokenRoom];
     char* const stop = std::transform(
         begin, end, digits, [](wchar_t c) { return static_cast<char>(c); }); // the low 8 bits
-    readNumber(digits, stop);
+    storeScannedNumber(digits, stop);
 }
 
 } // namespace
@@ -51,7 +52,7 @@ bool isScannedSpace(unsigned char byte) {
     return byte == ' ' || byte == '\t' || byte == '\n' || isDroppedSpace(byte);
 }
 
-int TextTokens::next() {
+int TextTokenizer::next() {
     std::uint8_t states[tokenRoom + 1]; // behind so many characters of the token
     wordDropped = 0;
     for (;;) {
@@ -76,7 +77,7 @@ int TextTokens::next() {
             if (token == skippedToken)
                 continue;
             if (token == unitNumber)
-                readNumberIn(begin, end);
+                storeNumberOf(begin, end);
             return token;
         }
         if (at == begin)

@@ -1,31 +1,15 @@
-#include <zarnex/units/internal/tokens.h>
+#include <zarnex/units/internal/scannedNumber.h>
 
 #include <algorithm>
 #include <charconv>
+#include <cstddef>
+#include <cstdint>
 #include <limits>
 #include <system_error>
 
 namespace zarnex::detail {
 
 namespace {
-
-constexpr Automaton automaton = buildAutomaton(tokenRules);
-
-static_assert(automaton.rule[Automaton::start] == Automaton::noRule &&
-                  !automaton.last[Automaton::start],
-              "every walk takes a character");
-static_assert(automaton.rule[Automaton::dead] == Automaton::noRule &&
-                  automaton.last[Automaton::dead],
-              "every walk ends in the dead state");
-static_assert(automaton.classOf[0] == 0 && automaton.classOf['A'] == 0,
-              "no token holds a zero byte or a capital");
-
-constexpr std::array<std::uint8_t, 128> foldedClasses() {
-    std::array<std::uint8_t, 128> classes{};
-    for (std::size_t c = 0; c < classes.size(); ++c)
-        classes[c] = automaton.classOf[c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c];
-    return classes;
-}
 
 constexpr double powersOfTen[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6, 1e7,
                                   1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14};
@@ -64,12 +48,9 @@ double readLongNumber(const char* text, const char* end) {
 
 } // namespace
 
-constinit const Automaton tokenAutomaton = automaton;
-constinit const std::array<std::uint8_t, 128> typedClasses = foldedClasses();
-
 constinit double scannedNumber = 0.0;
 
-void readNumber(const char* text, const char* end) {
+void storeScannedNumber(const char* text, const char* end) {
     const bool negative = *text == '-';
     if (negative || *text == '+')
         ++text;

@@ -17,7 +17,7 @@ bool isScannedSpace(unsigned char byte);
 
 /// Cuts wide text into tokens in its own place, as a ZUnitScanner does that nobody
 /// derives from.
-struct TextTokens {
+struct TextTokenizer {
     const wchar_t* text;
     const wchar_t* begin = text;   ///< of the latest token
     const wchar_t* end = text;     ///< of the latest token
