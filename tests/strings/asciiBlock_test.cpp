@@ -15,7 +15,7 @@ namespace {
 template <class In>
 bool hasHighestBit(const std::vector<In>& text) {
     constexpr auto highestBit = static_cast<In>(1u << (8 * sizeof(In) - 1));
-    return sizeof(In) > 1 && std::any_of(text.begin(), text.begin() + blockSize,
+    return sizeof(In) > 1 && std::any_of(text.begin(), text.begin() + asciiBlockSize,
                                          [](In unit) { return (unit & highestBit) != 0; });
 }
 
@@ -26,7 +26,7 @@ void expectCopies(std::initializer_list<In> others, std::ptrdiff_t mostUnits) {
     std::mt19937 engine(17);
     constexpr Out untouched = 0x55;
     for (int turn = 0; turn < 4000; ++turn) {
-        const auto length = blockSize + static_cast<std::ptrdiff_t>(engine() % 70);
+        const auto length = asciiBlockSize + static_cast<std::ptrdiff_t>(engine() % 70);
         std::vector<In> text(static_cast<std::size_t>(length));
         std::ptrdiff_t ascii = length;
         for (std::ptrdiff_t i = length - 1; i >= 0; --i) {
@@ -36,25 +36,25 @@ void expectCopies(std::initializer_list<In> others, std::ptrdiff_t mostUnits) {
             if (isOther)
                 ascii = i;
         }
-        const std::ptrdiff_t expected = (std::min)(ascii, blockSize);
+        const std::ptrdiff_t expected = (std::min)(ascii, asciiBlockSize);
         const std::ptrdiff_t filled = expected + (length - expected) / mostUnits;
 
-        Out out[blockSize];
-        std::fill_n(out, blockSize, untouched);
+        Out out[asciiBlockSize];
+        std::fill_n(out, asciiBlockSize, untouched);
         const std::ptrdiff_t count = AsciiBlocks::copyAscii(text.data(), length, out);
         if (!hasHighestBit(text) || count != 0) {
             ASSERT_EQ(count, expected);
         }
         for (std::ptrdiff_t i = 0; i < count; ++i)
             ASSERT_EQ(out[i], static_cast<Out>(text[static_cast<std::size_t>(i)]));
-        for (std::ptrdiff_t i = (std::min)(filled, blockSize); i < blockSize; ++i)
+        for (std::ptrdiff_t i = (std::min)(filled, asciiBlockSize); i < asciiBlockSize; ++i)
             ASSERT_EQ(out[i], untouched);
     }
 }
 
 template <class AsciiBlocks>
 void expectCopiesBothWays() {
-    expectCopies<AsciiBlocks, unsigned char, wchar_t>({0x80, 0xC3, 0xFF}, mostBytes);
+    expectCopies<AsciiBlocks, unsigned char, wchar_t>({0x80, 0xC3, 0xFF}, mostUtf8Bytes);
     constexpr auto last = static_cast<wchar_t>(-1);
     constexpr auto highestBit = static_cast<wchar_t>(1u << (8 * sizeof(wchar_t) - 1));
     expectCopies<AsciiBlocks, wchar_t, char>({L'\x80', L'\x100', L'\x8000', last, highestBit}, 1);

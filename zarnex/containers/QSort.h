@@ -31,7 +31,8 @@ public:
     };
 
     /// Sorts `count` elements of `size` bytes each, which are moved as plain bytes. Nothing
-    /// for a null `base`, for no elements and for elements without a size.
+    /// for a null `base`, for no elements, for elements without a size, and for more bytes than
+    /// std::size_t counts.
     ///
     /// The order of elements that compare equal is whatever qsort() gives. What `cb` throws
     /// comes out of this call; the elements are then all there, in an order left open.

@@ -9,9 +9,9 @@
 ///         ...
 ///
 /// Wide text keeps its units: UTF-16 on Windows, UTF-32 on Linux. UTF-8 follows the rules of
-/// conversions.h on both: surrogates in pairs become one character of four bytes and back, each
-/// one without its other half and each ill-formed sequence becomes U+FFFD. No byte order mark is
-/// written, and none taken away.
+/// conversions.h on both: on Windows two surrogates that are a pair become one character of four
+/// bytes and back; every other surrogate and each ill-formed sequence becomes U+FFFD. No byte order
+/// mark is written, and none taken away.
 ///
 /// A ZString ends at its terminator: of a standard string that holds zeros it takes the part before
 /// the first, and none comes back. What would have more than 2^31 - 2 bytes or units gives the

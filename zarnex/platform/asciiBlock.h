@@ -4,10 +4,10 @@
 ///
 ///     Blocks::copyAscii(text, length, out)
 ///
-/// copies the characters of ASCII in front of the block at `text` and returns their number.
-/// Where a wide unit of the block has its highest bit set, the number may be 0 instead. `length`, a
-/// block or more, is that of all the text left; what it is certain to fill in the block of `out`
-/// may be written over in advance.
+/// copies the ASCII characters that the block at `text` begins with, and returns how many.
+/// Where a wide unit of the block has its highest bit set it may return 0 instead. `length` is
+/// that of all the text left, at least a block. Those units of the block at `out` that the text
+/// is certain to fill may be written before they are final.
 
 #include <algorithm>
 #include <cstddef>
@@ -19,17 +19,17 @@
 
 namespace zarnex::platform {
 
-inline constexpr std::ptrdiff_t blockSize = 16;
+inline constexpr std::ptrdiff_t asciiBlockSize = 16;
 
-/// A character takes at most so many bytes.
-inline constexpr std::ptrdiff_t mostBytes = 4;
+/// A character takes at most so many bytes of UTF-8.
+inline constexpr std::ptrdiff_t mostUtf8Bytes = 4;
 
 /// One by one.
 struct PlainBlocks {
     template <class In, class Out>
     static std::ptrdiff_t copyAscii(const In* text, std::ptrdiff_t, Out* out) {
         std::ptrdiff_t count = 0;
-        for (; count < blockSize && text[count] >= 0 && text[count] < 0x80; ++count)
+        for (; count < asciiBlockSize && text[count] >= 0 && text[count] < 0x80; ++count)
             out[count] = static_cast<Out>(text[count]);
         return count;
     }
@@ -45,10 +45,10 @@ struct VectorBlocks {
         const auto marks = static_cast<unsigned>(_mm_movemask_epi8(bytes));
         if (marks == 0) {
             widen(bytes, out);
-            return blockSize; // a constant, so that the next block need not wait for a count
+            return asciiBlockSize; // a constant, so that the next block need not wait for a count
         }
         const std::ptrdiff_t count = std::countr_zero(marks);
-        if (count + (length - count) / mostBytes >= blockSize)
+        if (count + (length - count) / mostUtf8Bytes >= asciiBlockSize)
             widen(bytes, out);
         else
             std::copy_n(text, count, out);
@@ -59,7 +59,7 @@ struct VectorBlocks {
     static std::ptrdiff_t copyAscii(const wchar_t* text, std::ptrdiff_t, char* out) {
         const auto* const units = reinterpret_cast<const __m128i*>(text);
         const auto part = [units](int i) { return _mm_loadu_si128(units + i); };
-        __m128i bytes; // 80 and above for units of as much, but 0 for those with the highest bit
+        __m128i bytes; // 0x80 and above for units of as much, but 0 for those with the highest bit
         unsigned highest;
         if constexpr (sizeof(wchar_t) == 2) {
             bytes = _mm_packus_epi16(part(0), part(1));
@@ -75,7 +75,7 @@ struct VectorBlocks {
         const auto marks = static_cast<unsigned>(_mm_movemask_epi8(bytes));
         _mm_storeu_si128(reinterpret_cast<__m128i*>(out), bytes);
         if ((marks | highest) == 0)
-            return blockSize;
+            return asciiBlockSize;
         return highest != 0 ? 0 : std::countr_zero(marks);
     }
 

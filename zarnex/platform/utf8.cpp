@@ -1,31 +1,22 @@
 #include <zarnex/platform/utf8.h>
 
 #include <zarnex/platform/asciiBlock.h>
+#include <zarnex/platform/conversionArguments.h>
+#include <zarnex/platform/textUnits.h>
 
 #include <algorithm>
 #include <climits>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <cwchar>
-#include <type_traits>
 
 namespace zarnex::platform {
 
 namespace {
 
 using Byte = unsigned char;
-using Unit = std::make_unsigned_t<std::conditional_t<sizeof(wchar_t) == 2, short, int>>;
 
 constexpr char32_t replacement = 0xFFFD;
-
-bool isAscii(Byte byte) {
-    return byte < 0x80;
-}
-
-bool isAscii(wchar_t unit) {
-    return static_cast<Unit>(unit) < 0x80;
-}
 
 // ---- One character
 
@@ -95,11 +86,11 @@ inline char32_t decode(const Byte*& text, const Byte* end) {
 
 // The same for wide text: a pair of surrogates is one character.
 inline char32_t decode(const wchar_t*& text, const wchar_t* end) {
-    const char32_t unit = static_cast<Unit>(*text++);
+    const char32_t unit = static_cast<WideUnit>(*text++);
     if (unit - 0xD800 >= 0x800)
         return unit > 0x10FFFF ? replacement : unit;
     if (sizeof(wchar_t) == 2 && unit < 0xDC00 && text != end) {
-        const char32_t low = static_cast<Unit>(*text);
+        const char32_t low = static_cast<WideUnit>(*text);
         if (low - 0xDC00 < 0x400) {
             ++text;
             return 0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00);
@@ -152,11 +143,11 @@ int convert(const In* text, const In* const end, Out* const out, int room) {
     Out* next = out;
     Out* const stop = out + room;
     while (text != end) {
-        if (end - text >= blockSize && stop - next >= blockSize) {
+        if (end - text >= asciiBlockSize && stop - next >= asciiBlockSize) {
             const std::ptrdiff_t count = Blocks::copyAscii(text, end - text, next);
             text += count;
             next += count;
-            if (count == blockSize)
+            if (count == asciiBlockSize)
                 continue;
         } else if (isAscii(*text) && next != stop) {
             *next++ = static_cast<Out>(*text++);
@@ -180,13 +171,14 @@ int convert(const In* text, const In* const end, Out* const out, int room) {
 
 std::size_t sizeOf(const Byte* text, const Byte* end) {
     std::size_t size = 0;
-    wchar_t ascii[blockSize];
+    wchar_t ascii[asciiBlockSize];
     while (text != end) {
-        if (end - text >= blockSize) {
-            const std::ptrdiff_t count = Blocks::copyAscii(text, mostBytes * blockSize, ascii);
+        if (end - text >= asciiBlockSize) {
+            const std::ptrdiff_t count =
+                Blocks::copyAscii(text, mostUtf8Bytes * asciiBlockSize, ascii);
             text += count;
             size += static_cast<std::size_t>(count);
-            if (count == blockSize)
+            if (count == asciiBlockSize)
                 continue;
         }
         do {
@@ -198,24 +190,24 @@ std::size_t sizeOf(const Byte* text, const Byte* end) {
 
 // The bytes that `unit` takes, two for each half of a pair of surrogates: where `next`
 // completes one, two are taken off.
-inline Unit bytesOf(wchar_t at, wchar_t next) {
-    const auto unit = static_cast<Unit>(at); // NOLINT(bugprone-signed-char-misuse): it is none
+inline WideUnit bytesOf(wchar_t at, wchar_t next) {
+    const auto unit = static_cast<WideUnit>(at); // NOLINT(bugprone-signed-char-misuse): it is none
     const int size = 1 + (unit >= 0x80) + (unit >= 0x800);
     if constexpr (sizeof(wchar_t) == 2) {
         const bool isPair = (unit & 0xFC00) == 0xD800 && (next & 0xFC00) == 0xDC00;
-        return static_cast<Unit>(size - 2 * isPair);
+        return static_cast<WideUnit>(size - 2 * isPair);
     } else {
         const char32_t character = unit;
-        return static_cast<Unit>(size + (character >= 0x10000) - (character > 0x10FFFF));
+        return static_cast<WideUnit>(size + (character >= 0x10000) - (character > 0x10FFFF));
     }
 }
 
 std::size_t sizeOf(const wchar_t* text, const wchar_t* end) {
     std::size_t size = 0;
-    for (; end - text > blockSize; text += blockSize) {
-        Unit sum = 0;
-        for (int i = 0; i < blockSize; ++i)
-            sum = static_cast<Unit>(sum + bytesOf(text[i], text[i + 1]));
+    for (; end - text > asciiBlockSize; text += asciiBlockSize) {
+        WideUnit sum = 0;
+        for (int i = 0; i < asciiBlockSize; ++i)
+            sum = static_cast<WideUnit>(sum + bytesOf(text[i], text[i + 1]));
         size += sum;
     }
     while (text != end) {
@@ -233,24 +225,18 @@ int convertOrMeasure(const In* text, std::size_t count, Out* out, int room) {
     return size <= INT_MAX ? static_cast<int>(size) : 0;
 }
 
-bool isCall(const void* text, int count, const void* out, int room) {
-    return text != nullptr && count != 0 && room >= 0 && (room == 0 || out != nullptr);
-}
-
 } // namespace
 
 int utf8ToWide(const char* text, int count, wchar_t* out, int room) {
-    if (!isCall(text, count, out, room))
+    if (!canConvert(text, count, out, room))
         return 0;
-    const std::size_t length = count < 0 ? std::strlen(text) + 1 : static_cast<std::size_t>(count);
-    return convertOrMeasure(reinterpret_cast<const Byte*>(text), length, out, room);
+    return convertOrMeasure(reinterpret_cast<const Byte*>(text), unitCount(text, count), out, room);
 }
 
 int wideToUtf8(const wchar_t* text, int count, char* out, int room) {
-    if (!isCall(text, count, out, room))
+    if (!canConvert(text, count, out, room))
         return 0;
-    const std::size_t length = count < 0 ? std::wcslen(text) + 1 : static_cast<std::size_t>(count);
-    return convertOrMeasure(text, length, out, room);
+    return convertOrMeasure(text, unitCount(text, count), out, room);
 }
 
 std::size_t utf8WideUnits(const char* text, std::size_t count) {

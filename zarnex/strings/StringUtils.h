@@ -76,7 +76,7 @@ public:
     /// @}
 
     /// Splits the first 259 units of `path` into drive, directory, name and
-    /// extension, each cut to its room. Null outputs are skipped.
+    /// extension, each cut to its room. Null outputs are skipped; a null `path` is empty.
     ///
     /// The drive ends with the last colon, the directory with the last separator
     /// ('/' or '\') behind it; the extension starts at the last dot of what
@@ -95,7 +95,8 @@ public:
 
     /// Builds a path from parts, of which each may be null or empty. Adds a colon
     /// behind a drive without one, '\' behind a directory without separator, and
-    /// a dot in front of an extension without one. Cut to `room`.
+    /// a dot in front of an extension without one. Cut to `room`. Nothing for a null `out` and
+    /// for no room.
     /// @{
     static void makePath(char* out, std::size_t room, const char* drive, const char* dir,
                          const char* name, const char* ext);
@@ -104,7 +105,7 @@ public:
     /// @}
 
     /// Replaces the extension of `path` in place; a null or empty `ext` removes
-    /// it. Paths are cut to 259 units.
+    /// it. Paths are cut to 259 units. Nothing for a null `path` and for no room.
     /// @{
     static void fixname(char* path, std::size_t room, const char* ext);
     static void fixname(wchar_t* path, std::size_t room, const wchar_t* ext);

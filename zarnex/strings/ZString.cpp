@@ -3,8 +3,8 @@
 #include <zarnex/runtime/exiting.h>
 #include <zarnex/strings/StringUtils.h>
 #include <zarnex/strings/ZGenericString.h>
-#include <zarnex/strings/internal/caseless.h>
 #include <zarnex/strings/internal/textArray.h>
+#include <zarnex/strings/internal/textOrder.h>
 
 #include <charconv>
 #include <new>

@@ -285,7 +285,8 @@ public:
     /// @{
 
     /// Replaces every occurrence of `find`, from left to right, without searching
-    /// what it put in. An empty or null `find` changes nothing. One pass, one result.
+    /// what it put in, once: what that brings about stays. An empty or null `find` changes
+    /// nothing.
     void findAndReplace(const wchar_t* find, const wchar_t* replace);
 
     /// `count` units from `start`, fewer at the end of the text. A negative

@@ -1,8 +1,8 @@
 #include <zarnex/strings/ZWideString.h>
 
 #include <zarnex/strings/ZString.h>
-#include <zarnex/strings/internal/caseless.h>
 #include <zarnex/strings/internal/textArray.h>
+#include <zarnex/strings/internal/textOrder.h>
 
 using namespace zarnex::detail;
 

@@ -1,9 +1,10 @@
 #include <zarnex/units/ZHalfNumber.h>
 
-#include <cmath>
-#include <zarnex/strings/internal/readNumber.h>
+#include <zarnex/strings/internal/numberReading.h>
 #include <zarnex/units/internal/display.h>
 #include <zarnex/units/unitIds.h>
+
+#include <cmath>
 
 using namespace zarnex;
 using namespace zarnex::detail;

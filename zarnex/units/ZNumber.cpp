@@ -1,7 +1,7 @@
 #include <zarnex/units/ZNumber.h>
 
 #include <zarnex/geometry/rounding.h>
-#include <zarnex/strings/internal/readNumber.h>
+#include <zarnex/strings/internal/numberReading.h>
 #include <zarnex/units/unitIds.h>
 
 using namespace zarnex;

@@ -1,6 +1,6 @@
 #include <zarnex/units/ZRealNumber.h>
 
-#include <zarnex/strings/internal/readNumber.h>
+#include <zarnex/strings/internal/numberReading.h>
 #include <zarnex/units/internal/display.h>
 #include <zarnex/units/unitIds.h>
 

@@ -34,7 +34,7 @@ class UnitEngine;
 ///
 /// One scanner works at a time: the process-wide scanner lock is held from
 /// construction to destruction, on the thread that does both. A second scanner
-/// on the same thread works, one on another thread waits. Keep scanners short.
+/// on the same thread works, one on another thread waits. Let scanners live briefly.
 ///
 /// A token that reaches 100 characters ends the process ("Token buffer overflow"
 /// on the standard error stream, status 1): a hundred digits, or blanks.

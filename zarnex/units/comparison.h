@@ -1,9 +1,5 @@
 #pragma once
 
-#include <zarnex/geometry/formulas.h>
-
-#include <type_traits>
-
 /// @file
 /// Comparison of quantities with plain numbers, such as `width == 2.5` and
 /// `width < 3`.
@@ -12,6 +8,10 @@
 /// quantity of exactly that number; so ZNumber(2) does not equal 2.9. Order is
 /// that of the values. Without these functions such a comparison would be torn
 /// between a quantity made of the number and the number of the quantity.
+
+#include <zarnex/geometry/formulas.h>
+
+#include <type_traits>
 
 namespace zarnex::detail {
 

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <zarnex/config.h>
-#include <zarnex/strings/ZString.h>
-
 /// @file
 /// Values in units that are known by their identifier (zarnex::UnitId).
 ///
@@ -15,6 +12,9 @@
 /// the process when that text is read as a length, a speed or a density.
 ///
 ///     convertZUnits(2, 1.234, 4, 0)   // "1.23 mm" read as inches: 1.23 / 25.4
+
+#include <zarnex/config.h>
+#include <zarnex/strings/ZString.h>
 
 /// Writes the text of `value` in `unit` into `out` and returns 0.
 ///

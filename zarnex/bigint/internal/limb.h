@@ -119,7 +119,7 @@ inline Limb divideSlowly(LimbPair number, Limb divisor) {
 /// A divisor of one limb whose highest bit is set, ready to divide pairs of limbs by
 /// multiplying with its reciprocal.
 ///
-/// Source: Möller and Granlund, "Improved division by invariant integers", IEEE
+/// Source: Moeller and Granlund, "Improved division by invariant integers", IEEE
 /// Transactions on Computers 60 (2011).
 class LimbDivisor {
 public:

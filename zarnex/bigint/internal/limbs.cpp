@@ -1,5 +1,9 @@
 #include <zarnex/bigint/internal/limbs.h>
 
+#include <bit>
+#include <cstddef>
+#include <cstring>
+
 namespace zarnex::detail {
 
 Size significant(const Limb* a, Size count) {
@@ -9,14 +13,7 @@ Size significant(const Limb* a, Size count) {
 }
 
 int leadingZeros(Limb limb) {
-#if defined(__GNUC__)
-    return __builtin_clzll(limb);
-#else
-    int zeros = 0;
-    for (; limb >> (limbBits - 1) == 0; limb <<= 1)
-        ++zeros;
-    return zeros;
-#endif
+    return std::countl_zero(limb);
 }
 
 long long bitLength(const Limb* a, Size count) {
@@ -78,13 +75,12 @@ unsigned char propagateBorrow(Limb* out, const Limb* a, Size count, unsigned cha
 }
 
 Limb shiftUp(Limb* out, const Limb* a, Size count, int bits) {
-    if (bits == 0) {
-        while (--count >= 0)
-            out[count] = a[count];
-        return 0;
-    }
     if (count == 0)
         return 0;
+    if (bits == 0) {
+        std::memmove(out, a, static_cast<std::size_t>(count) * sizeof(Limb));
+        return 0;
+    }
     Limb above = a[count - 1];
     const Limb left = above >> (limbBits - bits);
     while (--count > 0) {
@@ -97,13 +93,12 @@ Limb shiftUp(Limb* out, const Limb* a, Size count, int bits) {
 }
 
 void shiftDown(Limb* out, const Limb* a, Size count, int bits) {
-    if (bits == 0) {
-        for (Size i = 0; i < count; ++i)
-            out[i] = a[i];
-        return;
-    }
     if (count == 0)
         return;
+    if (bits == 0) {
+        std::memmove(out, a, static_cast<std::size_t>(count) * sizeof(Limb));
+        return;
+    }
     Limb below = a[0];
     for (Size i = 1; i < count; ++i) {
         const Limb above = a[i];

@@ -1,11 +1,12 @@
 #include <zarnex/platform/posix/codePages.h>
 
+#include <zarnex/platform/conversionArguments.h>
+
 #include <cerrno>
 #include <climits>
 #include <cstddef>
 #include <cstdio>
 #include <cstring>
-#include <cwchar>
 #include <optional>
 
 #include <iconv.h>
@@ -158,7 +159,7 @@ int convertAll(Descriptor& descriptor, const void* input, std::size_t size, Outp
 } // namespace
 
 int codePageToWide(unsigned int codePage, const char* text, int count, wchar_t* out, int room) {
-    if (text == nullptr || count == 0 || room < 0 || (room > 0 && out == nullptr))
+    if (!canConvert(text, count, out, room))
         return 0;
     Descriptor descriptor(Descriptor::toWide, codePage);
     if (!descriptor.isOpen())
@@ -172,12 +173,11 @@ int codePageToWide(unsigned int codePage, const char* text, int count, wchar_t* 
         left -= taken;
         return output.put(!leads && isControl(byte) ? static_cast<wchar_t>(byte) : L'\uFFFD');
     };
-    const std::size_t size = count < 0 ? std::strlen(text) + 1 : static_cast<std::size_t>(count);
-    return convertAll(descriptor, text, size, output, replace);
+    return convertAll(descriptor, text, unitCount(text, count), output, replace);
 }
 
 int wideToCodePage(unsigned int codePage, const wchar_t* text, int count, char* out, int room) {
-    if (text == nullptr || count == 0 || room < 0 || (room > 0 && out == nullptr))
+    if (!canConvert(text, count, out, room))
         return 0;
     Descriptor descriptor(Descriptor::fromWide, codePage);
     std::optional<Descriptor> back; // opened when first needed
@@ -202,8 +202,7 @@ int wideToCodePage(unsigned int codePage, const wchar_t* text, int count, char* 
         std::size_t size = sizeof mark;
         return descriptor.convert(bytes, size, output) == 0;
     };
-    const std::size_t units = count < 0 ? std::wcslen(text) + 1 : static_cast<std::size_t>(count);
-    return convertAll(descriptor, text, units * sizeof(wchar_t), output, replace);
+    return convertAll(descriptor, text, unitCount(text, count) * sizeof(wchar_t), output, replace);
 }
 
 } // namespace zarnex::platform

@@ -33,7 +33,7 @@ int appendDigit(int number, int digit) {
 }
 
 template <class Char>
-int readNumber(const Char*& next, int number) {
+int readCount(const Char*& next, int number) {
     for (; *next >= Char{'0'} && *next <= Char{'9'}; ++next)
         number = appendDigit(number, static_cast<int>(*next - Char{'0'}));
     return number;
@@ -101,17 +101,17 @@ Conversion<Char> readConversion(const Char* next, Arguments& arguments) {
         layout.left = layout.left || width < 0;
         layout.width = width >= 0 ? width : width == INT_MIN ? INT_MAX : -width;
     } else {
-        layout.width = readNumber(next, 0);
+        layout.width = readCount(next, 0);
     }
     if (*next == Char{'.'}) {
         ++next;
         if (*next == Char{'*'}) {
             ++next;
             const int precision = va_arg(arguments.list, int);
-            const int further = readNumber(next, (std::max)(precision, 0));
+            const int further = readCount(next, (std::max)(precision, 0));
             layout.precision = precision < 0 ? -1 : further;
         } else {
-            layout.precision = readNumber(next, 0);
+            layout.precision = readCount(next, 0);
         }
     }
     read.length = readLength(next);

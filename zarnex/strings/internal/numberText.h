@@ -2,9 +2,9 @@
 
 /// Digits of numbers, the same on every platform and in every locale.
 
-#include <cstdint>
-
 #include <zarnex/strings/internal/TextBuffer.h>
+
+#include <cstdint>
 
 namespace zarnex::detail {
 

@@ -2,13 +2,16 @@
 
 /// Searching wide text for a part, exactly or without regard to case.
 
-#include <zarnex/strings/internal/caseless.h>
+#include <zarnex/platform/textUnits.h>
+#include <zarnex/strings/internal/textOrder.h>
 
 #include <algorithm>
 #include <cstddef>
 #include <cwchar>
 
 namespace zarnex::detail {
+
+using platform::WideUnit;
 
 /// Tells where a unit can stand that equals a given one.
 class ExactSieve {

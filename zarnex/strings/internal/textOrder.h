@@ -1,56 +1,19 @@
 #pragma once
 
-/// Comparing text without regard to case: wide text by the current locale, 8-bit text by
-/// A to Z alone.
+/// The order of texts, with and without regard to case.
 
+#include <zarnex/strings/internal/letterCase.h>
 #include <zarnex/strings/internal/text.h>
 
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <cwchar>
-#include <cwctype>
-#include <type_traits>
 
 namespace zarnex::detail {
 
 /// More than any text has.
 inline constexpr std::size_t allUnits = PTRDIFF_MAX / sizeof(wchar_t);
-
-/// The bits of a wide unit.
-using WideUnit = std::make_unsigned_t<std::conditional_t<sizeof(wchar_t) == 2, short, int>>;
-
-inline bool isAscii(wchar_t unit) {
-    return static_cast<WideUnit>(unit) < 0x80;
-}
-
-inline wchar_t lowerAscii(wchar_t unit) {
-    return unit >= L'A' && unit <= L'Z' ? static_cast<wchar_t>(unit + (L'a' - L'A')) : unit;
-}
-
-inline wchar_t upperAscii(wchar_t unit) {
-    return unit >= L'a' && unit <= L'z' ? static_cast<wchar_t>(unit - (L'a' - L'A')) : unit;
-}
-
-/// By the current locale. It is not asked about ASCII, where locales agree: only the
-/// letters I and i are a pair in some languages and two letters in others (Turkish).
-inline wchar_t lowerCase(wchar_t unit) {
-    if (isAscii(unit) && unit != L'I')
-        return lowerAscii(unit);
-    return static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(unit)));
-}
-
-inline wchar_t upperCase(wchar_t unit) {
-    if (isAscii(unit) && unit != L'i')
-        return upperAscii(unit);
-    return static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(unit)));
-}
-
-/// Bytes order as numbers from 0 to 255.
-inline unsigned char lowerCase(char unit) {
-    const int lower = unit >= 'A' && unit <= 'Z' ? unit + ('a' - 'A') : unit;
-    return static_cast<unsigned char>(lower);
-}
 
 /// Below, at or above 0 as the lower-cased units of `a` order before, with or
 /// behind those of `b`; the first `most` of them at most.

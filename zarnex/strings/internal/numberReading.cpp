@@ -1,6 +1,7 @@
-#include <zarnex/strings/internal/readNumber.h>
+#include <zarnex/strings/internal/numberReading.h>
 
 #include <zarnex/strings/internal/TextBuffer.h>
+#include <zarnex/strings/internal/letterCase.h>
 
 #include <charconv>
 #include <climits>
@@ -12,10 +13,6 @@ namespace {
 
 bool isDigit(wchar_t unit) {
     return unit >= L'0' && unit <= L'9';
-}
-
-wchar_t lowerAscii(wchar_t unit) {
-    return unit >= L'A' && unit <= L'Z' ? static_cast<wchar_t>(unit | 0x20) : unit;
 }
 
 bool isHexDigit(wchar_t unit) {

@@ -1,5 +1,6 @@
 #include <zarnex/strings/ZString.h>
 
+#include <zarnex/strings/internal/letterCase.h>
 #include <zarnex/strings/internal/search.h>
 #include <zarnex/strings/internal/textArray.h>
 
