@@ -71,8 +71,9 @@ void Suite::note(const Row& row) {
 
     table_ += "| " + row.name() + " | " + time(row.figures().front().nanoseconds) + " | ";
     if (peer != nullptr) {
-        table_ += text(row.isBeyond() ? "**%.2f** (%.2f–%.2f)" : "%.2f (%.2f–%.2f)", peer->median,
-                       peer->low, peer->high);
+        table_ +=
+            text(row.isBeyond() ? "**%.2f** (%.2f\xE2\x80\x93%.2f)" : "%.2f (%.2f\xE2\x80\x93%.2f)",
+                 peer->median, peer->low, peer->high);
         table_ += text(" | %.2f | ", peer->limit) + peer->name + ", " + time(peer->nanoseconds);
     } else {
         table_ += "| | ";

@@ -4,7 +4,7 @@ namespace bench {
 
 std::string time(double nanoseconds) {
     const char* unit = "ns";
-    for (const char* larger : {"µs", "ms", "s"}) {
+    for (const char* larger : {"\xC2\xB5s", "ms", "s"}) {
         if (nanoseconds < 999.5)
             break;
         nanoseconds /= 1000.0;

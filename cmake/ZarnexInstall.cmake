@@ -45,15 +45,14 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs
 # known when it is installed.
 set(debugger_files ${PROJECT_SOURCE_DIR}/tools/debugger)
 if(WIN32)
-    set(printers ${debugger_files}/zarnex_gdb.py)
     set(printers_dir ${CMAKE_INSTALL_DATADIR}/zarnex)
 else()
-    set(printers ${debugger_files}/zarnex_gdb.py
-        ${debugger_files}/libzarnex-foundation.so.${PROJECT_VERSION}-gdb.py)
     set(printers_dir
         "${CMAKE_INSTALL_DATADIR}/gdb/auto-load\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}")
+    install(FILES ${debugger_files}/libzarnex-foundation-gdb.py DESTINATION ${printers_dir}
+        COMPONENT development RENAME libzarnex-foundation.so.${PROJECT_VERSION}-gdb.py)
 endif()
-install(FILES ${printers} DESTINATION ${printers_dir} COMPONENT development)
+install(FILES ${debugger_files}/zarnex_gdb.py DESTINATION ${printers_dir} COMPONENT development)
 install(FILES ${debugger_files}/zarnex.natvis
     DESTINATION ${CMAKE_INSTALL_DATADIR}/zarnex COMPONENT development)
 

@@ -36,6 +36,10 @@ lint_text() {
     if grep -nP '[ \t\r]+$|\t' -- "${files[@]}"; then
         status=1
     fi
+    # The sources of the benchmark of encodings are text to encode.
+    if LC_ALL=C git grep --untracked -nP '[^\x00-\x7F]' -- '*.h' '*.cpp' ':!bench/rows/encodings.cpp'; then
+        status=1
+    fi
     for file in "${files[@]}"; do
         if [[ -n $(tail -c 1 -- "$file") ]]; then
             say "$file: no line end at its end"

@@ -124,7 +124,7 @@ install_debian() {
 windows_zip() {
     local wine
     say "" "=== Windows zip ==="
-    if ! need g++-mingw-w64-x86-64-posix wine64 wine; then
+    if ! need_windows; then
         say "Not made: $reason"
         return
     fi

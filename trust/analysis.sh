@@ -7,7 +7,7 @@ rm -rf "$work"
 mkdir -p "$work"
 
 need clang-tidy-14 cppcheck shellcheck devscripts >&2 || fail "Cannot analyse: $reason"
-need g++-mingw-w64-x86-64-posix wine64 wine googletest >&2 || fail "No Windows platform: $reason"
+need_windows >&2 || fail "No Windows platform: $reason"
 
 # Both platforms as any host would get them. Windows' own sources are analysed by cppcheck only.
 programs=(zarnex-units zarnex-stitchplan)

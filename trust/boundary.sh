@@ -69,7 +69,7 @@ exceptions() {
 
 need googletest >&2 || fail "Cannot configure the tests: $reason"
 need clang-14 >&2 || fail "No clang: $reason"
-need g++-mingw-w64-x86-64-posix wine64 wine >&2 || fail "No Windows platform: $reason"
+need_windows >&2 || fail "No Windows platform: $reason"
 rm -rf "$work"
 mkdir -p "$work/linux" "$work/windows"
 for preset in linux windows; do

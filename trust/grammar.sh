@@ -12,7 +12,7 @@ rows_checked() {
 }
 
 need googletest >&2 || fail "Cannot test: $reason"
-need g++-mingw-w64-x86-64-posix wine64 wine >&2 || fail "No Windows platform: $reason"
+need_windows >&2 || fail "No Windows platform: $reason"
 
 linux_rows=$(rows_checked linux build/linux/bin/test-units)
 windows_rows=$(rows_checked windows "$(wine_loader)" build/windows/bin/test-units.exe)

@@ -26,7 +26,7 @@ row() { # NAME PRESET LOCALE
 }
 
 need googletest locales >&2 || fail "Cannot test: $reason"
-need g++-mingw-w64-x86-64-posix wine64 wine >&2 || fail "No Windows platform: $reason"
+need_windows >&2 || fail "No Windows platform: $reason"
 for preset in linux windows; do
     configure "$preset" ON >&2
     build "$preset" >&2

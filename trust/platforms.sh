@@ -67,7 +67,7 @@ figures() { # PATTERN: files and bytes on Linux, as two cells
         awk '{ bytes += $1 } END { printf "%d | %d", NR, bytes }'
 }
 
-need g++-mingw-w64-x86-64-posix wine64 wine >&2 || fail "No Windows platform: $reason"
+need_windows >&2 || fail "No Windows platform: $reason"
 for preset in linux windows; do
     [[ -e build/$preset/build.ninja ]] || configure "$preset" OFF >&2
     cmake --build --preset "$preset" -j "$jobs" --target zarnex-units zarnex-stitchplan >&2

@@ -18,7 +18,7 @@ sum() { # KIND FILE: of the numbers in the lines of a kind
 }
 
 need googletest >&2 || fail "Cannot configure the tests: $reason"
-need g++-mingw-w64-x86-64-posix wine64 wine >&2 || fail "No Windows platform: $reason"
+need_windows >&2 || fail "No Windows platform: $reason"
 rm -rf "$work"
 mkdir -p "$work"
 
