@@ -15,7 +15,7 @@ void quantityRows(Suite& suite);
 void threadRows(Suite& suite);
 void pointRows(Suite& suite);
 void geometryRows(Suite& suite);
-void figureRows(Suite& suite); // of the topic geometry, as the next
+void outlineRows(Suite& suite); // of the topic geometry, as the next
 void rootRows(Suite& suite);
 void transformRows(Suite& suite);
 void matrixRows(Suite& suite); // of the topic transforms, as the next

@@ -284,7 +284,7 @@ void geometryRows(Suite& suite) {
     segmentRow(suite);
     turnRow(suite);
     rectangleRow(suite);
-    figureRows(suite);
+    outlineRows(suite);
     rootRows(suite);
 #if BENCH_GEOS
     finishGEOS();

@@ -305,7 +305,7 @@ void stringRows(Suite& suite) {
     searchRows(suite);
     replaceRow(suite);
     formatRows(suite);
-    growthRows(suite);
+    textGrowthRows(suite);
     pathRows(suite);
 }
 

@@ -144,7 +144,7 @@ void trimAndSlice(Suite& suite, const Size& size) {
 
 } // namespace
 
-void growthRows(Suite& suite) {
+void textGrowthRows(Suite& suite) {
     for (const Size& size : sizes) {
         replaceAll(suite, size);
         format(suite, size);

@@ -56,7 +56,7 @@ inline QString qString(const std::u16string& text) {
 
 // Parts of the string topic.
 void searchRows(Suite& suite);
-void growthRows(Suite& suite);
+void textGrowthRows(Suite& suite);
 void pathRows(Suite& suite);
 
 } // namespace bench

@@ -137,7 +137,7 @@ private:
     std::uint32_t blockBytes_;
     std::uint32_t cacheLength_;
     std::uint32_t limit_;
-    std::uint32_t cacheStart_;
+    std::uint32_t cacheStart_; // always 0: hosts rely on the layout
     std::uint32_t growBytes_;
 };
 #if defined(__GNUC__)

@@ -269,7 +269,7 @@ void centreRow(Suite& suite) {
 
 } // namespace
 
-void figureRows(Suite& suite) {
+void outlineRows(Suite& suite) {
     windingRow(suite);
     fitRow(suite);
     centreRow(suite);
