@@ -4,6 +4,7 @@
 #include "stitchplan/pieces.h"
 #include "stitchplan/typedValues.h"
 
+#include "common/trimming.h"
 #include "common/unitNames.h"
 #include "common/utf8.h"
 
@@ -222,7 +223,7 @@ void Reader::readStatement(std::string_view text) {
 Motif Reader::read(const std::vector<std::string_view>& lines) {
     for (const std::string_view line : lines) {
         ++line_;
-        const std::string_view text = trimmed(line.substr(0, line.find('#')));
+        const std::string_view text = host::trimmed(line.substr(0, line.find('#')), blanks);
         try {
             if (!host::isText(line))
                 throw ValueError("this is no text");
@@ -243,13 +244,9 @@ Motif Reader::read(const std::vector<std::string_view>& lines) {
 } // namespace
 
 std::vector<std::string_view> linesOf(std::string_view text) {
-    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    if (text.substr(0, byteOrderMark.size()) == byteOrderMark)
-        text.remove_prefix(byteOrderMark.size());
-    std::vector<std::string_view> lines = split(text, '\n');
+    std::vector<std::string_view> lines = split(host::withoutByteOrderMark(text), '\n');
     for (std::string_view& line : lines)
-        if (!line.empty() && line.back() == '\r')
-            line.remove_suffix(1);
+        line = host::withoutCarriageReturn(line);
     return lines;
 }
 
