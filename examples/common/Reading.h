@@ -24,7 +24,7 @@ constexpr std::size_t mostBytes = 1000;
 /// - no number begins it, or a sign without digits, to which the scanner gives the
 ///   number of the text before;
 /// - a character beyond ASCII stands in the number or the unit: the scanner looks at
-///   the low 8 bits, and "5″" would be 53;
+///   the low 8 bits, and a 5 with U+2033, the double prime, would be 53;
 /// - the quantity's class finds it invalid, for text behind the unit.
 ///
 /// "mm/s" and "cm/s" are speeds here, as the library displays them, although to the

@@ -30,7 +30,7 @@ bool isText(std::string_view text);
 
 /// Appends `text` as it may be shown on a terminal and in a table: ill-formed bytes
 /// are U+FFFD, tabs and control characters blanks, and what follows `most`
-/// characters is "…".
+/// characters is an ellipsis.
 void appendShown(std::string& out, std::string_view text, int most);
 std::string shown(std::string_view text, int most);
 
