@@ -98,8 +98,8 @@ void addPiece(std::string& pieces, std::wstring_view piece) {
 }
 
 std::string problemBefore(std::string_view text, std::wstring& wide) {
-    if (text.size() > mostBytes)
-        return "longer than " + std::to_string(mostBytes) + " bytes";
+    if (text.size() > mostTextBytes)
+        return "longer than " + std::to_string(mostTextBytes) + " bytes";
     if (text.find('\0') != std::string_view::npos)
         return "a NUL byte in it";
     if (!toWide(text, wide))

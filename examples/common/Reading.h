@@ -11,12 +11,12 @@
 namespace host {
 
 /// Longer texts are refused: nobody types them.
-constexpr std::size_t mostBytes = 1000;
+constexpr std::size_t mostTextBytes = 1000;
 
 /// What the library makes of one typed text.
 ///
 /// A text is refused with a `problem` before it reaches the library when it
-/// - is longer than `mostBytes`, holds a NUL or is not UTF-8;
+/// - is longer than `mostTextBytes`, holds a NUL or is not UTF-8;
 /// - holds 100 digits or blanks in a row, counting as digits "." and a sign in
 ///   front and as blanks tabs and newlines: ZUnitScanner ends the process at a
 ///   token of 100 characters, and no shorter run makes one.

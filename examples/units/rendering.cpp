@@ -111,7 +111,7 @@ std::string tableHeader() {
 
 void appendTableRow(std::string& out, long long line, std::string_view text,
                     const Reading& reading) {
-    constexpr int most = static_cast<int>(mostBytes);
+    constexpr int most = static_cast<int>(mostTextBytes);
     const bool valid = reading.problem.empty();
     out += std::to_string(line);
     out += '\t';
