@@ -1,13 +1,13 @@
 /// zarnex-stitchplan: a motif into stitches.
 ///
-/// A host program of the library, to read and to copy from. MotifReader takes typed
+/// A host program of the library, to read and to copy from. readMotif.cpp takes typed
 /// quantities to points, plan.cpp turns and scales them by transforms, sections.cpp clips
 /// rows with the intersection functions, and summary.cpp shows quantities again.
 
-#include "stitchplan/MotifReader.h"
 #include "stitchplan/arguments.h"
 #include "stitchplan/picture.h"
 #include "stitchplan/plan.h"
+#include "stitchplan/readMotif.h"
 #include "stitchplan/summary.h"
 
 #include "common/CommandLine.h"

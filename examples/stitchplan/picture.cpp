@@ -4,9 +4,7 @@
 
 #include <zarnex/geometry/rounding.h>
 
-#include <algorithm>
 #include <charconv>
-#include <cmath>
 #include <cstddef>
 #include <string>
 

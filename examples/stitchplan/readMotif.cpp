@@ -1,4 +1,4 @@
-#include "stitchplan/MotifReader.h"
+#include "stitchplan/readMotif.h"
 
 #include "stitchplan/outlines.h"
 #include "stitchplan/pieces.h"
