@@ -42,7 +42,8 @@ std::string readWhole(const std::string& path) {
         while (const std::size_t count = platform::readSome(file, chunk.data(), chunk.size())) {
             text.append(chunk.data(), count);
             if (text.size() > mostMotifBytes)
-                throw std::runtime_error(inputName(path) + ": more than 4 MiB is no motif");
+                throw std::runtime_error(inputName(path) + ": more than " +
+                                         std::to_string(mostMotifBytes >> 20) + " MiB is no motif");
         }
     } catch (const std::system_error& error) {
         throw cannotRead(path, error);

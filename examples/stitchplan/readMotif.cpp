@@ -133,7 +133,7 @@ void Reader::mustNotBeOpen() const {
 // Refuses too many before they fill the memory.
 void Reader::countCorners(const Outline& last) {
     if (corners_ + last.lines.size() > mostCorners)
-        throw ValueError("this makes more than 20000 corners");
+        throw ValueError("this makes more than " + std::to_string(mostCorners) + " corners");
 }
 
 void Reader::outline(std::string_view rest) {

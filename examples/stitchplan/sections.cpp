@@ -13,7 +13,7 @@ namespace stitchplan {
 
 namespace {
 
-constexpr double mostRows = 1000000.0;
+constexpr int mostRows = 1000000;
 constexpr int mostSpans = StitchPath::mostNeedles / 2; // each takes two needles or more
 
 // The edges that cross rows, all taken upward, in the order of their lower ends.
@@ -112,7 +112,8 @@ Rows rowsIn(const std::vector<Outline>& outlines, double spacing, int line) {
         }
     const double count = (std::max)(std::round((high - low) / spacing), 1.0);
     if (!(count <= mostRows))
-        throw MotifError(line, "so narrow a spacing makes more than 1000000 rows");
+        throw MotifError(line, "so narrow a spacing makes more than " + std::to_string(mostRows) +
+                                   " rows");
     return {low + (high - low - (count - 1.0) * spacing) / 2.0, spacing, static_cast<int>(count)};
 }
 
