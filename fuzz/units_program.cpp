@@ -2,8 +2,8 @@
 
 #include "fuzz/fuzz.h"
 
-#include "common/Reading.h"
-#include "common/unitNames.h"
+#include "host/Reading.h"
+#include "host/unitNames.h"
 #include "units/LineReader.h"
 #include "units/rendering.h"
 

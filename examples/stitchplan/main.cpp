@@ -10,13 +10,13 @@
 #include "stitchplan/readMotif.h"
 #include "stitchplan/summary.h"
 
-#include "common/CommandLine.h"
-#include "common/Messages.h"
-#include "common/NewFile.h"
-#include "common/Output.h"
-#include "common/paths.h"
-#include "common/platform.h"
-#include "common/utf8.h"
+#include "host/CommandLine.h"
+#include "host/Messages.h"
+#include "host/NewFile.h"
+#include "host/Output.h"
+#include "host/paths.h"
+#include "host/platform.h"
+#include "host/utf8.h"
 
 #include <exception>
 #include <new>

@@ -1,6 +1,6 @@
 #include "stitchplan/picture.h"
 
-#include "common/utf8.h"
+#include "host/utf8.h"
 
 #include <zarnex/geometry/rounding.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/trimming.h"
+#include "host/trimming.h"
 
 #include <string_view>
 #include <vector>

@@ -4,9 +4,9 @@
 #include "stitchplan/pieces.h"
 #include "stitchplan/typedValues.h"
 
-#include "common/trimming.h"
-#include "common/unitNames.h"
-#include "common/utf8.h"
+#include "host/trimming.h"
+#include "host/unitNames.h"
+#include "host/utf8.h"
 
 #include <zarnex/geometry/circleCentre.h>
 #include <zarnex/units/unitIds.h>

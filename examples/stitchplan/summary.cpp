@@ -1,6 +1,6 @@
 #include "stitchplan/summary.h"
 
-#include "common/utf8.h"
+#include "host/utf8.h"
 
 #include <zarnex/geometry/rounding.h>
 #include <zarnex/interop/standardStrings.h>

@@ -2,9 +2,9 @@
 
 #include "stitchplan/pieces.h"
 
-#include "common/Reading.h"
-#include "common/trimming.h"
-#include "common/utf8.h"
+#include "host/Reading.h"
+#include "host/trimming.h"
+#include "host/utf8.h"
 
 #include <zarnex/units/ZDegree.h>
 #include <zarnex/units/ZEmbPoint.h>

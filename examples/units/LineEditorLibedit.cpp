@@ -1,6 +1,6 @@
 #include "units/LineEditor.h"
 
-#include "common/Reading.h"
+#include "host/Reading.h"
 
 #include <clocale>
 #include <csignal>

@@ -1,8 +1,8 @@
 #include "units/LineEditor.h"
 #include "units/LineReader.h"
 
-#include "common/Reading.h"
-#include "common/platform.h"
+#include "host/Reading.h"
+#include "host/platform.h"
 
 #include <string_view>
 #include <utility>

@@ -1,7 +1,7 @@
 #include "units/LineReader.h"
 
-#include "common/platform.h"
-#include "common/trimming.h"
+#include "host/platform.h"
+#include "host/trimming.h"
 
 #include <utility>
 

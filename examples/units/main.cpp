@@ -8,14 +8,14 @@
 #include "units/prompt.h"
 #include "units/rendering.h"
 
-#include "common/CommandLine.h"
-#include "common/Messages.h"
-#include "common/Output.h"
-#include "common/Reading.h"
-#include "common/paths.h"
-#include "common/platform.h"
-#include "common/unitNames.h"
-#include "common/utf8.h"
+#include "host/CommandLine.h"
+#include "host/Messages.h"
+#include "host/Output.h"
+#include "host/Reading.h"
+#include "host/paths.h"
+#include "host/platform.h"
+#include "host/unitNames.h"
+#include "host/utf8.h"
 
 #include <exception>
 #include <string>

@@ -3,9 +3,9 @@
 #include "units/LineEditor.h"
 #include "units/rendering.h"
 
-#include "common/Reading.h"
-#include "common/trimming.h"
-#include "common/unitNames.h"
+#include "host/Reading.h"
+#include "host/trimming.h"
+#include "host/unitNames.h"
 
 #include <string>
 #include <string_view>

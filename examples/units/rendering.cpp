@@ -1,7 +1,7 @@
 #include "units/rendering.h"
 
-#include "common/unitNames.h"
-#include "common/utf8.h"
+#include "host/unitNames.h"
+#include "host/utf8.h"
 
 #include <zarnex/interop/standardStrings.h>
 

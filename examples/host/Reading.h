@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/Quantity.h"
+#include "host/Quantity.h"
 
 #include <zarnex/units/unitIds.h>
 

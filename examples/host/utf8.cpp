@@ -1,4 +1,4 @@
-#include "common/utf8.h"
+#include "host/utf8.h"
 
 #include <algorithm>
 #include <cstddef>

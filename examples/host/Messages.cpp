@@ -1,7 +1,7 @@
-#include "common/Messages.h"
+#include "host/Messages.h"
 
-#include "common/platform.h"
-#include "common/utf8.h"
+#include "host/platform.h"
+#include "host/utf8.h"
 
 #include <string>
 #include <system_error>

@@ -1,7 +1,7 @@
-#include "common/Reading.h"
+#include "host/Reading.h"
 
-#include "common/trimming.h"
-#include "common/utf8.h"
+#include "host/trimming.h"
+#include "host/utf8.h"
 
 #include <zarnex/units/ZUnitScanner.h>
 

@@ -1,7 +1,7 @@
-#include "common/paths.h"
+#include "host/paths.h"
 
-#include "common/platform.h"
-#include "common/utf8.h"
+#include "host/platform.h"
+#include "host/utf8.h"
 
 namespace host {
 

@@ -1,6 +1,6 @@
-#include "common/Output.h"
+#include "host/Output.h"
 
-#include "common/platform.h"
+#include "host/platform.h"
 
 #include <cstddef>
 #include <stdexcept>
