@@ -2,9 +2,9 @@
 
 #include "fuzz/fuzz.h"
 
-#include "stitchplan/MotifReader.h"
 #include "stitchplan/picture.h"
 #include "stitchplan/plan.h"
+#include "stitchplan/readMotif.h"
 #include "stitchplan/summary.h"
 
 #include <algorithm>

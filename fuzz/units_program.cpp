@@ -2,8 +2,8 @@
 
 #include "fuzz/fuzz.h"
 
-#include "common/Reading.h"
-#include "common/unitNames.h"
+#include "host/Reading.h"
+#include "host/unitNames.h"
 #include "units/LineReader.h"
 #include "units/rendering.h"
 
@@ -69,7 +69,7 @@ void tryInput(fuzz::Input input) {
     FUZZ_REQUIRE(pwrite(file, text.data(), text.size(), 0) == static_cast<ssize_t>(text.size()));
     lseek(file, 0, SEEK_SET);
 
-    const std::size_t most = host::mostBytes;
+    const std::size_t most = host::mostTextBytes;
     units::LineReader reader(file, most, [] {});
     long long number = 0;
     for (const std::string& expected : linesOf(text)) {

@@ -21,6 +21,12 @@ public:
     int line;
 };
 
+/// From one corner of an outline to the next.
+struct Edge {
+    DPoint from;
+    DPoint to;
+};
+
 /// A closed outline; the edge from the last corner to the first closes it.
 struct Outline {
     ZXArray<DPoint> corners;
@@ -30,6 +36,16 @@ struct Outline {
 
     bool isHole() const {
         return depth % 2 != 0;
+    }
+
+    /// The corner behind `corner`.
+    int next(int corner) const {
+        return corner + 1 < corners.length() ? corner + 1 : 0;
+    }
+
+    /// The edge from `corner` to the next.
+    Edge edge(int corner) const {
+        return {corners[corner], corners[next(corner)]};
     }
 };
 

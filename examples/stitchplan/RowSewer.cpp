@@ -29,7 +29,7 @@ DPoint RowSewer::Run::end() const {
 
 RowSewer::RowSewer(const std::vector<Outline>& shape, const Rows& rows, double stitchLength,
                    StitchPath& path, std::function<void()> afterRow)
-    : sides_(shape), rows_(rows), stitchLength_(stitchLength), path_(path),
+    : edges_(shape), rows_(rows), stitchLength_(stitchLength), path_(path),
       afterRow_(std::move(afterRow)) {}
 
 Entry RowSewer::nearestEntry(const Section& section) const {
@@ -114,7 +114,7 @@ void RowSewer::sewRun(const Run& run) {
 
 // For ways that begin inside.
 bool RowSewer::staysInside(const DPoint& from, const DPoint& to) const {
-    return !sides_.isCrossed(from, to);
+    return !edges_.isCrossed(from, to);
 }
 
 } // namespace stitchplan

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "stitchplan/SideGrid.h"
+#include "stitchplan/EdgeGrid.h"
 #include "stitchplan/StitchPath.h"
 #include "stitchplan/sections.h"
 
@@ -48,7 +48,7 @@ private:
     void sewRun(const Run& run);
     bool staysInside(const DPoint& from, const DPoint& to) const;
 
-    const SideGrid sides_;
+    const EdgeGrid edges_;
     const Rows rows_;
     const double stitchLength_;
     StitchPath& path_;

@@ -1,8 +1,13 @@
 #include "stitchplan/StitchPath.h"
 
 #include <cmath>
+#include <string>
 
 namespace stitchplan {
+
+TooManyNeedles::TooManyNeedles()
+    : std::runtime_error("this makes more than " + std::to_string(StitchPath::mostNeedles) +
+                         " stitches") {}
 
 void StitchPath::sewTo(const DPoint& needle) {
     if (isCut_)

@@ -11,7 +11,7 @@ namespace stitchplan {
 /// A path that would grow beyond StitchPath::mostNeedles.
 class TooManyNeedles : public std::runtime_error {
 public:
-    TooManyNeedles() : std::runtime_error("this makes more than 10000000 stitches") {}
+    TooManyNeedles();
 };
 
 /// Where the needle goes in, in the order of sewing and in points.

@@ -1,7 +1,7 @@
 #include "stitchplan/arguments.h"
 
-#include "common/CommandLine.h"
-#include "common/utf8.h"
+#include "host/CommandLine.h"
+#include "host/utf8.h"
 
 namespace stitchplan {
 

@@ -1,21 +1,22 @@
 /// zarnex-stitchplan: a motif into stitches.
 ///
-/// A host program of the library, to read and to copy from. MotifReader takes typed
+/// A host program of the library, to read and to copy from. readMotif.cpp takes typed
 /// quantities to points, plan.cpp turns and scales them by transforms, sections.cpp clips
 /// rows with the intersection functions, and summary.cpp shows quantities again.
 
-#include "stitchplan/MotifReader.h"
 #include "stitchplan/arguments.h"
 #include "stitchplan/picture.h"
 #include "stitchplan/plan.h"
+#include "stitchplan/readMotif.h"
 #include "stitchplan/summary.h"
 
-#include "common/CommandLine.h"
-#include "common/Messages.h"
-#include "common/NewFile.h"
-#include "common/Output.h"
-#include "common/platform.h"
-#include "common/utf8.h"
+#include "host/CommandLine.h"
+#include "host/Messages.h"
+#include "host/NewFile.h"
+#include "host/Output.h"
+#include "host/paths.h"
+#include "host/platform.h"
+#include "host/utf8.h"
 
 #include <exception>
 #include <new>
@@ -33,42 +34,35 @@ namespace {
 
 enum Status { planned = 0, atFault = 2 };
 
-/// What the user calls the motif.
-std::string nameOf(const Arguments& arguments) {
-    return arguments.motif == "-" ? "standard input" : shown(arguments.motif, 200);
-}
-
-std::string readWhole(const Arguments& arguments) {
+std::string readWhole(const std::string& path) {
     std::string text;
     try {
-        const int file = arguments.motif == "-" ? 0 : platform::openFile(arguments.motif);
+        const int file = openInput(path);
         std::vector<char> chunk(1 << 16);
         while (const std::size_t count = platform::readSome(file, chunk.data(), chunk.size())) {
             text.append(chunk.data(), count);
             if (text.size() > mostMotifBytes)
-                throw std::runtime_error(nameOf(arguments) + ": more than 4 MiB is no motif");
+                throw std::runtime_error(inputName(path) + ": more than " +
+                                         std::to_string(mostMotifBytes >> 20) + " MiB is no motif");
         }
     } catch (const std::system_error& error) {
-        throw std::runtime_error("cannot read " + nameOf(arguments) + ": " +
-                                 error.code().message());
+        throw cannotRead(path, error);
     }
     return text;
 }
 
 Plan makePlan(const Arguments& arguments, Messages& messages) {
-    const std::string text = readWhole(arguments);
+    const std::string text = readWhole(arguments.motif);
     const std::vector<std::string_view> lines = linesOf(text);
     try {
         return planStitches(readMotif(lines),
                             [&](int needles) { messages.progress(needles, "needle points"); });
     } catch (const MotifError& error) {
-        std::string message = nameOf(arguments) + ": " + error.what();
-        if (error.line > 0) {
-            const auto at = static_cast<std::size_t>(error.line) - 1;
-            message = nameOf(arguments) + ':' + std::to_string(error.line) + ": " + error.what() +
-                      ": " + quoted(lines[at]);
-        }
-        throw std::runtime_error(message);
+        const std::string name = inputName(arguments.motif);
+        if (error.line == 0)
+            throw std::runtime_error(name + ": " + error.what());
+        throw std::runtime_error(name + ':' + std::to_string(error.line) + ": " + error.what() +
+                                 ": " + quoted(lines[static_cast<std::size_t>(error.line) - 1]));
     }
 }
 
@@ -78,8 +72,7 @@ void withPicture(const std::string& path, Use use) {
     try {
         use();
     } catch (const std::system_error& error) {
-        throw std::runtime_error("cannot write " + shown(path, 200) + ": " +
-                                 error.code().message());
+        throw cannotWrite(path, error);
     }
 }
 
@@ -91,7 +84,7 @@ void plan(const Arguments& arguments, Output& output, Messages& messages) {
     const std::string& path = arguments.picture;
     if (!path.empty()) {
         if (platform::isSameFile(path, arguments.motif))
-            throw std::runtime_error("the picture would replace the motif " + shown(path, 200));
+            throw std::runtime_error("the picture would replace the motif " + shownPath(path));
         withPicture(path, [&] {
             picture.emplace(path);
             drawPicture(
@@ -99,7 +92,7 @@ void plan(const Arguments& arguments, Output& output, Messages& messages) {
                 [&](int needles) { messages.progress(needles, "needle points drawn"); });
             picture->flush();
         });
-        summary += "picture     " + shown(path, 200) + '\n';
+        summary += "picture     " + shownPath(path) + '\n';
     }
     messages.clearProgress();
     output.add(summary);

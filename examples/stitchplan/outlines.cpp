@@ -18,9 +18,8 @@ namespace {
 /// What is nearer than 1 micrometre touches.
 constexpr double touching = 0.01;
 
-struct Edge {
-    DPoint from;
-    DPoint to;
+/// An edge and where it stands.
+struct PlacedEdge : Edge {
     std::size_t outline;
     int corner; ///< at `from`
     int next;   ///< corner, at `to`
@@ -31,21 +30,17 @@ struct Edge {
     double right() const {
         return (std::max)(from.x, to.x);
     }
-    bool isBeside(const Edge& other) const {
+    bool isBeside(const PlacedEdge& other) const {
         return (std::max)(from.y, to.y) + touching < (std::min)(other.from.y, other.to.y) ||
                (std::max)(other.from.y, other.to.y) + touching < (std::min)(from.y, to.y);
     }
 };
 
-std::vector<Edge> edgesOf(const std::vector<Outline>& outlines) {
-    std::vector<Edge> edges;
-    for (std::size_t i = 0; i < outlines.size(); ++i) {
-        const ZXArray<DPoint>& corners = outlines[i].corners;
-        for (int k = 0; k < corners.length(); ++k) {
-            const int next = k + 1 < corners.length() ? k + 1 : 0;
-            edges.push_back({corners[k], corners[next], i, k, next});
-        }
-    }
+std::vector<PlacedEdge> edgesOf(const std::vector<Outline>& outlines) {
+    std::vector<PlacedEdge> edges;
+    for (std::size_t i = 0; i < outlines.size(); ++i)
+        for (int corner = 0; corner < outlines[i].corners.length(); ++corner)
+            edges.push_back({outlines[i].edge(corner), i, corner, outlines[i].next(corner)});
     return edges;
 }
 
@@ -63,7 +58,7 @@ bool foldsBack(const Edge& a, const Edge& b) {
     return isOn(a.from, b) || isOn(b.to, a);
 }
 
-bool touchWrongly(const Edge& a, const Edge& b) {
+bool touchWrongly(const PlacedEdge& a, const PlacedEdge& b) {
     if (a.isBeside(b))
         return false;
     if (a.outline == b.outline && a.next == b.corner)
@@ -76,19 +71,19 @@ bool touchWrongly(const Edge& a, const Edge& b) {
 // Throws for the first edge found that touches another one. Edges are taken from left to
 // right and compared with those that reach as far.
 void refuseTouching(const std::vector<Outline>& outlines) {
-    std::vector<Edge> edges = edgesOf(outlines);
+    std::vector<PlacedEdge> edges = edgesOf(outlines);
     std::sort(edges.begin(), edges.end(),
-              [](const Edge& a, const Edge& b) { return a.left() < b.left(); });
-    std::vector<const Edge*> reaching;
-    for (const Edge& edge : edges) {
-        const auto isPassed = [&edge](const Edge* other) {
+              [](const PlacedEdge& a, const PlacedEdge& b) { return a.left() < b.left(); });
+    std::vector<const PlacedEdge*> reaching;
+    for (const PlacedEdge& edge : edges) {
+        const auto isPassed = [&edge](const PlacedEdge* other) {
             return other->right() < edge.left() - touching;
         };
         reaching.erase(std::remove_if(reaching.begin(), reaching.end(), isPassed), reaching.end());
-        for (const Edge* other : reaching) {
+        for (const PlacedEdge* other : reaching) {
             if (!touchWrongly(edge, *other))
                 continue;
-            const Edge& later =
+            const PlacedEdge& later =
                 std::pair(edge.outline, edge.corner) > std::pair(other->outline, other->corner)
                     ? edge
                     : *other;
@@ -103,9 +98,8 @@ void refuseTouching(const std::vector<Outline>& outlines) {
 
 double lengthOf(const Outline& outline) {
     double sum = 0.0;
-    const int count = outline.corners.length();
-    for (int i = 0; i < count; ++i)
-        sum += outline.corners[i].distance(outline.corners[i + 1 < count ? i + 1 : 0]);
+    for (int i = 0; i < outline.corners.length(); ++i)
+        sum += outline.corners[i].distance(outline.corners[outline.next(i)]);
     return sum;
 }
 
@@ -128,11 +122,9 @@ void reverse(Outline& outline) {
 }
 
 bool isInside(const DPoint& p, const Outline& outline) {
-    const int count = outline.corners.length();
     bool inside = false;
-    for (int i = 0; i < count; ++i) {
-        const DPoint& a = outline.corners[i];
-        const DPoint& b = outline.corners[i + 1 < count ? i + 1 : 0];
+    for (int i = 0; i < outline.corners.length(); ++i) {
+        const auto [a, b] = outline.edge(i);
         if ((a.y <= p.y) == (b.y <= p.y))
             continue;
         const bool isLeftOf = crossProd(b, a, p, a) > 0.0;
@@ -173,7 +165,7 @@ void transform(std::vector<Outline>& outlines, const Z2DTrans& by) {
             outline.corners[i] *= by;
 }
 
-void settle(std::vector<Outline>& outlines) {
+void checkAndOrient(std::vector<Outline>& outlines) {
     for (Outline& outline : outlines) {
         const int last = outline.corners.length() - 1;
         if (last > 0 && isEqual(outline.corners[0], outline.corners[last], touching)) {

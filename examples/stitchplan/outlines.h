@@ -20,10 +20,10 @@ void transform(std::vector<Outline>& outlines, const Z2DTrans& by);
 /// Throws MotifError for an outline that is too small, or touches itself or another. Sets
 /// how deep each lies in others, and lets outer outlines run counter-clockwise and holes
 /// clockwise, so that what is filled is to the left.
-void settle(std::vector<Outline>& outlines);
+void checkAndOrient(std::vector<Outline>& outlines);
 
 /// What is filled: each outer outline with the holes that are right in it, the outer one
-/// first. For outlines that are settled.
+/// first. For outlines that checkAndOrient() has taken.
 std::vector<std::vector<Outline>> shapesOf(const std::vector<Outline>& outlines);
 
 } // namespace stitchplan

@@ -1,12 +1,10 @@
 #include "stitchplan/picture.h"
 
-#include "common/utf8.h"
+#include "host/utf8.h"
 
 #include <zarnex/geometry/rounding.h>
 
-#include <algorithm>
 #include <charconv>
-#include <cmath>
 #include <cstddef>
 #include <string>
 

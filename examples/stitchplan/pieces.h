@@ -1,18 +1,14 @@
 #pragma once
 
+#include "host/trimming.h"
+
 #include <string_view>
 #include <vector>
 
 namespace stitchplan {
 
-/// `text` without the blanks around it.
-inline std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view blanks = " \t\f";
-    const std::size_t first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(blanks) + 1 - first);
-}
+/// What stands between the words of a motif, and may stand around all that is in it.
+inline constexpr std::string_view blanks = " \t\f";
 
 /// The pieces of `text` between separators, one more than there are separators.
 inline std::vector<std::string_view> split(std::string_view text, char separator) {
@@ -28,9 +24,9 @@ inline std::vector<std::string_view> split(std::string_view text, char separator
 
 /// Takes the first word, up to a blank, off `text` with the blanks around it.
 inline std::string_view takeWord(std::string_view& text) {
-    text = trimmed(text);
-    const std::string_view word = text.substr(0, text.find_first_of(" \t\f"));
-    text = trimmed(text.substr(word.size()));
+    text = host::trimmed(text, blanks);
+    const std::string_view word = text.substr(0, text.find_first_of(blanks));
+    text = host::trimmed(text.substr(word.size()), blanks);
     return word;
 }
 

@@ -71,7 +71,7 @@ Plan planStitches(Motif motif, const std::function<void(int)>& progress) {
     scale.scale(plan.motif.scale, plan.motif.scale);
     transform(plan.motif.outlines, scale);
     checkHoop(plan.motif, plan.copies);
-    settle(plan.motif.outlines);
+    checkAndOrient(plan.motif.outlines);
     try {
         StitchPath one;
         int rows = 0;

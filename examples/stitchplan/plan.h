@@ -13,7 +13,7 @@ namespace stitchplan {
 
 /// What is sewn.
 struct Plan {
-    Motif motif;                  ///< its outlines scaled, and as settle() leaves them
+    Motif motif;                  ///< its outlines scaled, checked and oriented
     std::vector<Z2DTrans> copies; ///< that take the motif to where it is sewn
     StitchPath path;
     int rows = 0;   ///< of all copies

@@ -95,15 +95,14 @@ void sewWay(const Way& way, double stitchLength, StitchPath& path) {
 } // namespace
 
 void sewAlong(const Outline& outline, double stitchLength, StitchPath& path) {
-    const int count = outline.corners.length();
     path.cutThread();
     path.sewTo(outline.corners[0]);
     Way way(outline.corners[0]);
-    for (int i = 1; i <= count; ++i) {
-        const DPoint& corner = outline.corners[i % count];
+    for (int i = 0; i < outline.corners.length(); ++i) {
+        const int next = outline.next(i);
+        const DPoint& corner = outline.corners[next];
         way.add(corner);
-        if (i == count ||
-            isSharp(outline.corners[i - 1], corner, outline.corners[(i + 1) % count])) {
+        if (next == 0 || isSharp(outline.corners[i], corner, outline.corners[outline.next(next)])) {
             sewWay(way, stitchLength, path);
             way = Way(corner);
         }

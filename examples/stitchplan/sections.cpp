@@ -13,52 +13,44 @@ namespace stitchplan {
 
 namespace {
 
-constexpr double mostRows = 1000000.0;
+constexpr int mostRows = 1000000;
 constexpr int mostSpans = StitchPath::mostNeedles / 2; // each takes two needles or more
 
-/// An edge of an outline, upward.
-struct Side {
-    DPoint lower;
-    DPoint upper;
-};
-
-std::vector<Side> sidesOf(const std::vector<Outline>& outlines) {
-    std::vector<Side> sides;
-    for (const Outline& outline : outlines) {
-        const int count = outline.corners.length();
-        for (int i = 0; i < count; ++i) {
-            const DPoint& a = outline.corners[i];
-            const DPoint& b = outline.corners[(i + 1) % count];
-            if (a.y != b.y)
-                sides.push_back(a.y < b.y ? Side{a, b} : Side{b, a});
+// The edges that cross rows, all taken upward, in the order of their lower ends.
+std::vector<Edge> upwardEdges(const std::vector<Outline>& outlines) {
+    std::vector<Edge> edges;
+    for (const Outline& outline : outlines)
+        for (int i = 0; i < outline.corners.length(); ++i) {
+            const Edge edge = outline.edge(i);
+            if (edge.from.y != edge.to.y)
+                edges.push_back(edge.from.y < edge.to.y ? edge : Edge{edge.to, edge.from});
         }
-    }
-    std::sort(sides.begin(), sides.end(),
-              [](const Side& a, const Side& b) { return a.lower.y < b.lower.y; });
-    return sides;
+    std::sort(edges.begin(), edges.end(),
+              [](const Edge& a, const Edge& b) { return a.from.y < b.from.y; });
+    return edges;
 }
 
 /// Goes up through the rows and gives the spans of each.
 class Sweep {
 public:
-    explicit Sweep(const std::vector<Outline>& outlines) : sides_(sidesOf(outlines)) {}
+    explicit Sweep(const std::vector<Outline>& outlines) : edges_(upwardEdges(outlines)) {}
 
-    /// The spans at height `y`, from left to right; `y` must not sink. A side counts
+    /// The spans at height `y`, from left to right; `y` must not sink. An edge counts
     /// from its lower end up to, and without, its upper one, so every row crosses an even
     /// number of them.
     const std::vector<Span>& spansAt(double y, double shortest) {
-        for (; next_ < sides_.size() && sides_[next_].lower.y <= y; ++next_)
+        for (; next_ < edges_.size() && edges_[next_].from.y <= y; ++next_)
             crossed_.push_back(next_);
-        const auto isPassed = [&](std::size_t i) { return sides_[i].upper.y <= y; };
+        const auto isPassed = [&](std::size_t i) { return edges_[i].to.y <= y; };
         crossed_.erase(std::remove_if(crossed_.begin(), crossed_.end(), isPassed), crossed_.end());
 
         crossings_.clear();
         const DPoint row(0.0, y);
         const DVector alongRow(1.0, 0.0);
         for (const std::size_t i : crossed_) {
-            const Side& side = sides_[i];
-            DPoint crossing = side.lower; // stays for a side that is all but parallel
-            intersect(crossing, row, alongRow, side.lower, side.upper - side.lower);
+            const Edge& edge = edges_[i];
+            DPoint crossing = edge.from; // stays for an edge that is all but parallel
+            intersect(crossing, row, alongRow, edge.from, edge.to - edge.from);
             crossings_.push_back(crossing.x);
         }
         std::sort(crossings_.begin(), crossings_.end());
@@ -71,7 +63,7 @@ public:
     }
 
 private:
-    std::vector<Side> sides_;
+    std::vector<Edge> edges_;
     std::size_t next_ = 0;
     std::vector<std::size_t> crossed_;
     std::vector<double> crossings_;
@@ -120,7 +112,8 @@ Rows rowsIn(const std::vector<Outline>& outlines, double spacing, int line) {
         }
     const double count = (std::max)(std::round((high - low) / spacing), 1.0);
     if (!(count <= mostRows))
-        throw MotifError(line, "so narrow a spacing makes more than 1000000 rows");
+        throw MotifError(line, "so narrow a spacing makes more than " + std::to_string(mostRows) +
+                                   " rows");
     return {low + (high - low - (count - 1.0) * spacing) / 2.0, spacing, static_cast<int>(count)};
 }
 

@@ -1,9 +1,9 @@
 #include "stitchplan/summary.h"
 
-#include "common/utf8.h"
+#include "host/utf8.h"
 
 #include <zarnex/geometry/rounding.h>
-#include <zarnex/strings/ZString.h>
+#include <zarnex/interop/standardStrings.h>
 #include <zarnex/units/ZEmbPoint.h>
 #include <zarnex/units/ZInch.h>
 #include <zarnex/units/ZMillimeter.h>
@@ -15,13 +15,9 @@ namespace stitchplan {
 
 namespace {
 
-std::string text(const ZString& shown) {
-    return host::toUtf8(static_cast<const wchar_t*>(shown));
-}
-
 std::string millimeters(double points) {
     const ZEmbPoint tenths(zarnex::roundHalfAway(points)); // of a millimetre; no -0.0
-    return text(ZMillimeter(tenths).getString(0, 1));
+    return zarnex::toUtf8(ZMillimeter(tenths).getString(0, 1));
 }
 
 std::string counted(int count, const char* one, const char* many) {
@@ -56,13 +52,13 @@ std::string summaryOf(const Plan& plan) {
     lines += row("stitches", std::to_string(plan.path.stitches()));
     lines += row("rows", std::to_string(plan.rows));
     lines += row("threads", std::to_string(plan.path.threads()));
-    lines += row("thread", millimeters(thread) + ", " + text(inches.getString(0, 2)));
+    lines += row("thread", millimeters(thread) + ", " + zarnex::toUtf8(inches.getString(0, 2)));
     lines +=
         row("extent", millimeters(extent.right - extent.left) + " x " +
                           millimeters(extent.bottom - extent.top) + ", from (" +
                           millimeters(extent.left) + ", " + millimeters(extent.top) + ") to (" +
                           millimeters(extent.right) + ", " + millimeters(extent.bottom) + ')');
-    lines += row("density", text(density.getString(0, 2)));
+    lines += row("density", zarnex::toUtf8(density.getString(0, 2)));
     return lines;
 }
 

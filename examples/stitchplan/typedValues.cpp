@@ -2,8 +2,9 @@
 
 #include "stitchplan/pieces.h"
 
-#include "common/Reading.h"
-#include "common/utf8.h"
+#include "host/Reading.h"
+#include "host/trimming.h"
+#include "host/utf8.h"
 
 #include <zarnex/units/ZDegree.h>
 #include <zarnex/units/ZEmbPoint.h>
@@ -50,11 +51,11 @@ double inPoints(std::string_view text, const host::Reading& reading) {
 
 // A plain number in front of one of the `words`, or of none.
 ZString numberIn(std::string_view text, std::initializer_list<std::string_view> words) {
-    std::string_view number = trimmed(text);
+    std::string_view number = host::trimmed(text, blanks);
     for (const std::string_view word : words) {
         const std::size_t end = number.size() - word.size();
         if (number.size() > word.size() && number.substr(end) == word) {
-            number = trimmed(number.substr(0, end));
+            number = host::trimmed(number.substr(0, end), blanks);
             break;
         }
     }
@@ -79,7 +80,7 @@ bool isLengthUnit(int unit) {
 }
 
 double length(std::string_view text, int bareUnit) {
-    text = trimmed(text);
+    text = host::trimmed(text, blanks);
     const host::Reading reading = readingOf(text, bareUnit);
     if (!isLengthUnit(reading.unit))
         throw ValueError("no length: " + host::quoted(text));
@@ -87,7 +88,7 @@ double length(std::string_view text, int bareUnit) {
 }
 
 double lengthOrDensity(std::string_view text, int bareUnit) {
-    text = trimmed(text);
+    text = host::trimmed(text, blanks);
     const host::Reading reading = readingOf(text, bareUnit);
     if (!isLengthUnit(reading.unit) && reading.unit != zarnex::unitSpi)
         throw ValueError("neither a length nor stitches per inch: " + host::quoted(text));
@@ -95,7 +96,7 @@ double lengthOrDensity(std::string_view text, int bareUnit) {
 }
 
 double angle(std::string_view text) {
-    const ZDegree degrees(numberIn(text, {"degrees", "degree", "deg", "°"}));
+    const ZDegree degrees(numberIn(text, {"degrees", "degree", "deg", "\xC2\xB0"}));
     if (!(std::fabs(degrees) <= 360.0))
         throw ValueError("more than 360 degrees: " + host::quoted(text));
     return degrees;
@@ -106,7 +107,7 @@ double percentage(std::string_view text) {
 }
 
 int count(std::string_view text, int most) {
-    const std::string_view digits = trimmed(text);
+    const std::string_view digits = host::trimmed(text, blanks);
     int number = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
     if (error != std::errc() || end != digits.data() + digits.size() || number < 1 || number > most)

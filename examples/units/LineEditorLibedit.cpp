@@ -1,6 +1,6 @@
 #include "units/LineEditor.h"
 
-#include "common/Reading.h"
+#include "host/Reading.h"
 
 #include <clocale>
 #include <csignal>
@@ -97,7 +97,7 @@ bool LineEditor::next(std::string& line) {
         return false;
     line = typed.get();
     if (line.find_first_not_of(" \t") != std::string::npos && line != state_->last &&
-        line.size() <= host::mostBytes) {
+        line.size() <= host::mostTextBytes) {
         add_history(line.c_str());
         state_->last = line;
         if (!state_->history.empty()) { // at once: a signal may end the program

@@ -1,8 +1,8 @@
 #include "units/LineEditor.h"
 #include "units/LineReader.h"
 
-#include "common/Reading.h"
-#include "common/platform.h"
+#include "host/Reading.h"
+#include "host/platform.h"
 
 #include <string_view>
 #include <utility>
@@ -11,18 +11,11 @@ namespace units {
 
 using namespace host;
 
-namespace {
-
-constexpr int standardInput = 0;
-constexpr int standardOutput = 1;
-
-} // namespace
-
 const char* const LineEditor::help = "";
 
 struct LineEditor::State {
     std::string prompt;
-    LineReader lines{standardInput, mostBytes, [] {}};
+    LineReader lines{platform::standardInput, mostTextBytes, [] {}};
 };
 
 LineEditor::LineEditor(std::string prompt) : state_(std::make_unique<State>()) {
@@ -32,7 +25,7 @@ LineEditor::LineEditor(std::string prompt) : state_(std::make_unique<State>()) {
 LineEditor::~LineEditor() = default;
 
 bool LineEditor::next(std::string& line) {
-    platform::writeAll(standardOutput, state_->prompt.data(), state_->prompt.size());
+    platform::writeAll(platform::standardOutput, state_->prompt.data(), state_->prompt.size());
     std::string_view read;
     const bool found = state_->lines.next(read);
     line = read;

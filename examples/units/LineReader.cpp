@@ -1,6 +1,7 @@
 #include "units/LineReader.h"
 
-#include "common/platform.h"
+#include "host/platform.h"
+#include "host/trimming.h"
 
 #include <utility>
 
@@ -11,7 +12,6 @@ using namespace host;
 namespace {
 
 constexpr std::size_t chunkSize = 1 << 16;
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 } // namespace
 
@@ -44,10 +44,9 @@ bool LineReader::next(std::string_view& line) {
         }
     } while (feed == none && fill());
 
-    if (++lineNumber_ == 1 && line.substr(0, byteOrderMark.size()) == byteOrderMark)
-        line.remove_prefix(byteOrderMark.size());
-    if (!line.empty() && line.back() == '\r')
-        line.remove_suffix(1);
+    if (++lineNumber_ == 1)
+        line = withoutByteOrderMark(line);
+    line = withoutCarriageReturn(line);
     return true;
 }
 

@@ -1,8 +1,8 @@
 #include "units/arguments.h"
 
-#include "common/CommandLine.h"
-#include "common/unitNames.h"
-#include "common/utf8.h"
+#include "host/CommandLine.h"
+#include "host/unitNames.h"
+#include "host/utf8.h"
 
 namespace units {
 

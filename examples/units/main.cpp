@@ -8,16 +8,16 @@
 #include "units/prompt.h"
 #include "units/rendering.h"
 
-#include "common/CommandLine.h"
-#include "common/Messages.h"
-#include "common/Output.h"
-#include "common/Reading.h"
-#include "common/platform.h"
-#include "common/unitNames.h"
-#include "common/utf8.h"
+#include "host/CommandLine.h"
+#include "host/Messages.h"
+#include "host/Output.h"
+#include "host/Reading.h"
+#include "host/paths.h"
+#include "host/platform.h"
+#include "host/unitNames.h"
+#include "host/utf8.h"
 
 #include <exception>
-#include <stdexcept>
 #include <string>
 #include <system_error>
 
@@ -83,11 +83,9 @@ bool isSkipped(std::string_view line) {
 
 Status makeTable(const Arguments& arguments, Output& output, Messages& messages) {
     Status status = allValid;
-    const bool fromStandardInput = arguments.file == "-";
-    const std::string name = fromStandardInput ? "standard input" : shown(arguments.file, 200);
+    const std::string name = inputName(arguments.file);
     try {
-        LineReader reader(fromStandardInput ? 0 : platform::openFile(arguments.file), mostBytes,
-                          [&output] { output.flush(); });
+        LineReader reader(openInput(arguments.file), mostTextBytes, [&output] { output.flush(); });
         output.add(tableHeader());
         std::string row;
         for (std::string_view line; reader.next(line);) {
@@ -107,7 +105,7 @@ Status makeTable(const Arguments& arguments, Output& output, Messages& messages)
         }
     } catch (const std::system_error& error) {
         output.flush();
-        throw std::runtime_error("cannot read " + name + ": " + error.code().message());
+        throw cannotRead(arguments.file, error);
     }
     messages.clearProgress();
     return status;
@@ -120,7 +118,8 @@ Status run(const Arguments& arguments, Output& output, Messages& messages) {
     case Arguments::Task::table:
         return makeTable(arguments, output, messages);
     case Arguments::Task::prompt:
-        if (!platform::isTerminal(0) || !platform::isTerminal(1))
+        if (!platform::isTerminal(platform::standardInput) ||
+            !platform::isTerminal(platform::standardOutput))
             throw UsageError(noQuantity);
         askForQuantities(arguments.bareUnit, output);
         return allValid;

@@ -3,10 +3,12 @@
 #include "units/LineEditor.h"
 #include "units/rendering.h"
 
-#include "common/Reading.h"
-#include "common/unitNames.h"
+#include "host/Reading.h"
+#include "host/trimming.h"
+#include "host/unitNames.h"
 
 #include <string>
+#include <string_view>
 
 namespace units {
 
@@ -14,13 +16,7 @@ using namespace host;
 
 namespace {
 
-std::string trimmed(const std::string& line) {
-    constexpr const char* blanks = " \t";
-    const std::size_t first = line.find_first_not_of(blanks);
-    if (first == std::string::npos)
-        return {};
-    return line.substr(first, line.find_last_not_of(blanks) + 1 - first);
-}
+constexpr std::string_view blanks = " \t";
 
 std::string help(int bareUnit) {
     return "Type a number and a unit, such as 2.5 mm, 3\" or 40 per sq cm; a number alone\n"
@@ -30,7 +26,7 @@ std::string help(int bareUnit) {
            "\"quit\" ends.\n";
 }
 
-std::string answer(const std::string& text, int bareUnit) {
+std::string answer(std::string_view text, int bareUnit) {
     const Reading reading(text, bareUnit);
     std::string lines;
     if (!reading.problem.empty() || !reading.ignored.empty())
@@ -47,7 +43,7 @@ void askForQuantities(int bareUnit, Output& output) {
     output.add("Type a quantity such as 2.5 mm, or \"help\", or \"quit\".\n");
     output.flush();
     for (std::string line; editor.next(line);) {
-        const std::string text = trimmed(line);
+        const std::string_view text = trimmed(std::string_view(line), blanks);
         if (text == "quit" || text == "exit")
             return;
         if (!text.empty())

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/Output.h"
+#include "host/Output.h"
 
 namespace units {
 

@@ -1,9 +1,9 @@
 #include "units/rendering.h"
 
-#include "common/unitNames.h"
-#include "common/utf8.h"
+#include "host/unitNames.h"
+#include "host/utf8.h"
 
-#include <zarnex/strings/ZString.h>
+#include <zarnex/interop/standardStrings.h>
 
 #include <algorithm>
 #include <array>
@@ -30,12 +30,12 @@ constexpr std::array<int, 7> tableUnits = {
 template <class Own>
 std::string displayText(Own quantity) {
     const ZString text = quantity;
-    return toUtf8(static_cast<const wchar_t*>(text));
+    return zarnex::toUtf8(text);
 }
 
 std::string displayText(const ZMillimeterPerSec& speed) {
     const ZString text = speed;
-    return toUtf8(static_cast<const wchar_t*>(text));
+    return zarnex::toUtf8(text);
 }
 
 void appendNumber(std::string& out, double number) {
@@ -111,7 +111,7 @@ std::string tableHeader() {
 
 void appendTableRow(std::string& out, long long line, std::string_view text,
                     const Reading& reading) {
-    constexpr int most = static_cast<int>(mostBytes);
+    constexpr int most = static_cast<int>(mostTextBytes);
     const bool valid = reading.problem.empty();
     out += std::to_string(line);
     out += '\t';

@@ -2,7 +2,7 @@
 
 /// What the program prints of its readings. Everything ends with a line feed.
 
-#include "common/Reading.h"
+#include "host/Reading.h"
 
 #include <string>
 #include <string_view>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/Quantity.h"
+#include "host/Quantity.h"
 
 #include <zarnex/units/unitIds.h>
 
@@ -11,12 +11,12 @@
 namespace host {
 
 /// Longer texts are refused: nobody types them.
-constexpr std::size_t mostBytes = 1000;
+constexpr std::size_t mostTextBytes = 1000;
 
 /// What the library makes of one typed text.
 ///
 /// A text is refused with a `problem` before it reaches the library when it
-/// - is longer than `mostBytes`, holds a NUL or is not UTF-8;
+/// - is longer than `mostTextBytes`, holds a NUL or is not UTF-8;
 /// - holds 100 digits or blanks in a row, counting as digits "." and a sign in
 ///   front and as blanks tabs and newlines: ZUnitScanner ends the process at a
 ///   token of 100 characters, and no shorter run makes one.
@@ -24,7 +24,7 @@ constexpr std::size_t mostBytes = 1000;
 /// - no number begins it, or a sign without digits, to which the scanner gives the
 ///   number of the text before;
 /// - a character beyond ASCII stands in the number or the unit: the scanner looks at
-///   the low 8 bits, and "5″" would be 53;
+///   the low 8 bits, and a 5 with U+2033, the double prime, would be 53;
 /// - the quantity's class finds it invalid, for text behind the unit.
 ///
 /// "mm/s" and "cm/s" are speeds here, as the library displays them, although to the

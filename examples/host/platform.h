@@ -9,6 +9,11 @@
 
 namespace host::platform {
 
+/// The standard streams, as files.
+inline constexpr int standardInput = 0;
+inline constexpr int standardOutput = 1;
+inline constexpr int standardError = 2;
+
 /// Lets the standard streams carry bytes as they are, and a closed one stay closed whatever is
 /// opened. Called once, before all others.
 void prepareStreams();

@@ -1,4 +1,4 @@
-#include "stitchplan/SideGrid.h"
+#include "stitchplan/EdgeGrid.h"
 
 #include <zarnex/geometry/lineIntersection.h>
 
@@ -7,30 +7,29 @@
 
 namespace stitchplan {
 
-SideGrid::SideGrid(const std::vector<Outline>& outlines) {
+EdgeGrid::EdgeGrid(const std::vector<Outline>& outlines) {
     DPoint high = outlines.front().corners[0];
     corner_ = high;
     for (const Outline& outline : outlines) {
-        const int count = outline.corners.length();
-        for (int i = 0; i < count; ++i) {
+        for (int i = 0; i < outline.corners.length(); ++i) {
             const DPoint& from = outline.corners[i];
-            sides_.push_back({from, outline.corners[i + 1 < count ? i + 1 : 0]});
+            edges_.push_back(outline.edge(i));
             corner_ = DPoint((std::min)(corner_.x, from.x), (std::min)(corner_.y, from.y));
             high = DPoint((std::max)(high.x, from.x), (std::max)(high.y, from.y));
         }
     }
-    // About a cell a side; a side that crosses the whole grid stands in few of them.
-    count_ = static_cast<int>(std::ceil(std::sqrt(static_cast<double>(sides_.size()))));
+    // About a cell an edge; an edge that crosses the whole grid stands in few of them.
+    count_ = static_cast<int>(std::ceil(std::sqrt(static_cast<double>(edges_.size()))));
     cellWidth_ = (std::max)((high.x - corner_.x) / count_, 1.0);
     cellHeight_ = (std::max)((high.y - corner_.y) / count_, 1.0);
     cells_.resize(static_cast<std::size_t>(count_) * static_cast<std::size_t>(count_));
-    for (int side = 0; side < static_cast<int>(sides_.size()); ++side)
-        add(side);
+    for (int edge = 0; edge < static_cast<int>(edges_.size()); ++edge)
+        add(edge);
 }
 
-// Row by row, in the columns that the side passes there.
-void SideGrid::add(int side) {
-    const Side& s = sides_[static_cast<std::size_t>(side)];
+// Row by row, in the columns that the edge passes there.
+void EdgeGrid::add(int edge) {
+    const Edge& s = edges_[static_cast<std::size_t>(edge)];
     const DPoint& low = s.from.y < s.to.y ? s.from : s.to;
     const DPoint& high = s.from.y < s.to.y ? s.to : s.from;
     const double slope = high.y > low.y ? (high.x - low.x) / (high.y - low.y) : 0.0;
@@ -44,35 +43,35 @@ void SideGrid::add(int side) {
             std::swap(begin, end);
         // Rounding may place an end just across the border of a cell.
         for (int c = column(begin - 0.01); c <= column(end + 0.01); ++c)
-            cells_[place(c, r)].push_back(side);
+            cells_[place(c, r)].push_back(edge);
     }
 }
 
-int SideGrid::column(double x) const {
+int EdgeGrid::column(double x) const {
     return std::clamp(static_cast<int>((x - corner_.x) / cellWidth_), 0, count_ - 1);
 }
 
-int SideGrid::row(double y) const {
+int EdgeGrid::row(double y) const {
     return std::clamp(static_cast<int>((y - corner_.y) / cellHeight_), 0, count_ - 1);
 }
 
-std::size_t SideGrid::place(int column, int row) const {
+std::size_t EdgeGrid::place(int column, int row) const {
     return static_cast<std::size_t>(row) * static_cast<std::size_t>(count_) +
            static_cast<std::size_t>(column);
 }
 
-const std::vector<int>& SideGrid::cell(int column, int row) const {
+const std::vector<int>& EdgeGrid::cell(int column, int row) const {
     return cells_[place(column, row)];
 }
 
-bool SideGrid::isCrossed(const DPoint& from, const DPoint& to) const {
+bool EdgeGrid::isCrossed(const DPoint& from, const DPoint& to) const {
     const int lastColumn = column((std::max)(from.x, to.x));
     const int lastRow = row((std::max)(from.y, to.y));
     for (int r = row((std::min)(from.y, to.y)); r <= lastRow; ++r)
         for (int c = column((std::min)(from.x, to.x)); c <= lastColumn; ++c)
             for (const int i : cell(c, r)) {
-                const Side& side = sides_[static_cast<std::size_t>(i)];
-                if (isContainedIntersect(from, to, side.from, side.to))
+                const Edge& edge = edges_[static_cast<std::size_t>(i)];
+                if (isContainedIntersect(from, to, edge.from, edge.to))
                     return true;
             }
     return false;

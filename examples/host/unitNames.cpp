@@ -1,6 +1,6 @@
-#include "common/unitNames.h"
+#include "host/unitNames.h"
 
-#include "common/utf8.h"
+#include "host/utf8.h"
 
 #include <zarnex/units/ZUnitScanner.h>
 #include <zarnex/units/unitIds.h>

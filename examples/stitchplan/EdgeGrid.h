@@ -7,28 +7,23 @@
 
 namespace stitchplan {
 
-/// The sides of outlines by place, to find those near a short way.
-class SideGrid {
+/// The edges of outlines by place, to find those near a short way.
+class EdgeGrid {
 public:
-    explicit SideGrid(const std::vector<Outline>& outlines);
+    explicit EdgeGrid(const std::vector<Outline>& outlines);
 
-    /// Whether the straight way meets a side that is not parallel to it.
+    /// Whether the straight way meets an edge that is not parallel to it.
     bool isCrossed(const DPoint& from, const DPoint& to) const;
 
 private:
-    struct Side {
-        DPoint from;
-        DPoint to;
-    };
-
     int column(double x) const;
     int row(double y) const;
     std::size_t place(int column, int row) const; ///< in cells_
     const std::vector<int>& cell(int column, int row) const;
-    void add(int side);
+    void add(int edge);
 
-    std::vector<Side> sides_;
-    std::vector<std::vector<int>> cells_; ///< row by row: indices of sides
+    std::vector<Edge> edges_;
+    std::vector<std::vector<int>> cells_; ///< row by row: indices of edges
     DPoint corner_;                       ///< the least coordinates
     double cellWidth_ = 1.0;
     double cellHeight_ = 1.0;

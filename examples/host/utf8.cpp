@@ -1,4 +1,4 @@
-#include "common/utf8.h"
+#include "host/utf8.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -117,7 +117,7 @@ void appendShown(std::string& out, std::string_view text, int most) {
         if (text.empty())
             return;
         if (room == 0) {
-            out += "…";
+            out += "\xE2\x80\xA6"; // an ellipsis
             return;
         }
         const char32_t c = nextCharacter(text);

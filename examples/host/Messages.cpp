@@ -1,7 +1,7 @@
-#include "common/Messages.h"
+#include "host/Messages.h"
 
-#include "common/platform.h"
-#include "common/utf8.h"
+#include "host/platform.h"
+#include "host/utf8.h"
 
 #include <string>
 #include <system_error>
@@ -11,12 +11,9 @@ namespace host {
 
 namespace {
 
-constexpr int standardOutput = 1;
-constexpr int standardError = 2;
-
 void write(const std::string& text) {
     try {
-        platform::writeAll(standardError, text.data(), text.size());
+        platform::writeAll(platform::standardError, text.data(), text.size());
     } catch (const std::system_error&) {
     }
 }
@@ -43,8 +40,9 @@ void Messages::progress(long long done, std::string_view what) {
     if (Clock::now() < next_)
         return;
     next_ = Clock::now() + std::chrono::milliseconds(200);
-    static const bool wanted = platform::isTerminal(standardError) &&
-                               !(writesAllTheWhile_ && platform::isTerminal(standardOutput));
+    static const bool wanted =
+        platform::isTerminal(platform::standardError) &&
+        !(writesAllTheWhile_ && platform::isTerminal(platform::standardOutput));
     if (wanted) {
         clearProgress();
         write(program_ + ": " + std::to_string(done) + ' ' + std::string(what));

@@ -16,6 +16,7 @@ char32_t nextCharacter(std::string_view& text);
 
 void appendUtf8(std::string& out, char32_t character);
 
+/// A stretch of wide text in UTF-8, without the ZString that zarnex::toUtf8() would take.
 std::string toUtf8(std::wstring_view text);
 
 /// Sets `wide` to the text and returns true; false for text that is not UTF-8.
@@ -29,7 +30,7 @@ bool isText(std::string_view text);
 
 /// Appends `text` as it may be shown on a terminal and in a table: ill-formed bytes
 /// are U+FFFD, tabs and control characters blanks, and what follows `most`
-/// characters is "…".
+/// characters is an ellipsis.
 void appendShown(std::string& out, std::string_view text, int most);
 std::string shown(std::string_view text, int most);
 

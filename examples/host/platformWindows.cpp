@@ -1,4 +1,4 @@
-#include "common/platform.h"
+#include "host/platform.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -90,7 +90,7 @@ bool isDevice(const std::string& path) {
 } // namespace
 
 void prepareStreams() {
-    for (const int file : {0, 1, 2})
+    for (const int file : {standardInput, standardOutput, standardError})
         _setmode(file, _O_BINARY);
     static const ConsoleCodePage utf8;
 }

@@ -1,11 +1,12 @@
-#include "stitchplan/MotifReader.h"
+#include "stitchplan/readMotif.h"
 
 #include "stitchplan/outlines.h"
 #include "stitchplan/pieces.h"
 #include "stitchplan/typedValues.h"
 
-#include "common/unitNames.h"
-#include "common/utf8.h"
+#include "host/trimming.h"
+#include "host/unitNames.h"
+#include "host/utf8.h"
 
 #include <zarnex/geometry/circleCentre.h>
 #include <zarnex/units/unitIds.h>
@@ -132,7 +133,7 @@ void Reader::mustNotBeOpen() const {
 // Refuses too many before they fill the memory.
 void Reader::countCorners(const Outline& last) {
     if (corners_ + last.lines.size() > mostCorners)
-        throw ValueError("this makes more than 20000 corners");
+        throw ValueError("this makes more than " + std::to_string(mostCorners) + " corners");
 }
 
 void Reader::outline(std::string_view rest) {
@@ -222,7 +223,7 @@ void Reader::readStatement(std::string_view text) {
 Motif Reader::read(const std::vector<std::string_view>& lines) {
     for (const std::string_view line : lines) {
         ++line_;
-        const std::string_view text = trimmed(line.substr(0, line.find('#')));
+        const std::string_view text = host::trimmed(line.substr(0, line.find('#')), blanks);
         try {
             if (!host::isText(line))
                 throw ValueError("this is no text");
@@ -243,13 +244,9 @@ Motif Reader::read(const std::vector<std::string_view>& lines) {
 } // namespace
 
 std::vector<std::string_view> linesOf(std::string_view text) {
-    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    if (text.substr(0, byteOrderMark.size()) == byteOrderMark)
-        text.remove_prefix(byteOrderMark.size());
-    std::vector<std::string_view> lines = split(text, '\n');
+    std::vector<std::string_view> lines = split(host::withoutByteOrderMark(text), '\n');
     for (std::string_view& line : lines)
-        if (!line.empty() && line.back() == '\r')
-            line.remove_suffix(1);
+        line = host::withoutCarriageReturn(line);
     return lines;
 }
 

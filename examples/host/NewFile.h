@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/platform.h"
+#include "host/platform.h"
 
 #include <string>
 #include <string_view>

@@ -1,6 +1,7 @@
-#include "common/Reading.h"
+#include "host/Reading.h"
 
-#include "common/utf8.h"
+#include "host/trimming.h"
+#include "host/utf8.h"
 
 #include <zarnex/units/ZUnitScanner.h>
 
@@ -88,17 +89,17 @@ std::string beyondAscii(std::wstring_view token) {
 
 void addPiece(std::string& pieces, std::wstring_view piece) {
     constexpr std::wstring_view space = L" \t\r\n\v\f\u00A0\u2007\u2009\u202F";
-    const std::size_t first = piece.find_first_not_of(space);
-    if (first == std::wstring_view::npos)
+    piece = trimmed(piece, space);
+    if (piece.empty())
         return;
     if (!pieces.empty())
         pieces += ' ';
-    pieces += toUtf8(piece.substr(first, piece.find_last_not_of(space) + 1 - first));
+    pieces += toUtf8(piece);
 }
 
 std::string problemBefore(std::string_view text, std::wstring& wide) {
-    if (text.size() > mostBytes)
-        return "longer than " + std::to_string(mostBytes) + " bytes";
+    if (text.size() > mostTextBytes)
+        return "longer than " + std::to_string(mostTextBytes) + " bytes";
     if (text.find('\0') != std::string_view::npos)
         return "a NUL byte in it";
     if (!toWide(text, wide))

@@ -1,4 +1,4 @@
-#include "common/CommandLine.h"
+#include "host/CommandLine.h"
 
 namespace host {
 

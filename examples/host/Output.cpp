@@ -1,6 +1,6 @@
-#include "common/Output.h"
+#include "host/Output.h"
 
-#include "common/platform.h"
+#include "host/platform.h"
 
 #include <cstddef>
 #include <stdexcept>
@@ -11,7 +11,6 @@ namespace host {
 namespace {
 
 constexpr std::size_t mostAtOnce = 4096;
-constexpr int standardOutput = 1;
 
 } // namespace
 
@@ -23,7 +22,7 @@ void Output::add(std::string_view lines) {
 
 void Output::flush() {
     try {
-        platform::writeAll(standardOutput, waiting_.data(), waiting_.size());
+        platform::writeAll(platform::standardOutput, waiting_.data(), waiting_.size());
     } catch (const std::system_error& error) {
         throw std::runtime_error("cannot write the output: " + error.code().message());
     }

@@ -1,4 +1,4 @@
-#include "common/platform.h"
+#include "host/platform.h"
 
 #include <cerrno>
 #include <climits>

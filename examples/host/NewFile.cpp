@@ -1,4 +1,4 @@
-#include "common/NewFile.h"
+#include "host/NewFile.h"
 
 #include <cstddef>
 
