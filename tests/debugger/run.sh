@@ -21,7 +21,8 @@ scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 installed=$scratch/auto-load$(dirname "$library")
 mkdir -p "$installed"
-cp "$tools"/*.py "$installed/"
+cp "$tools/zarnex_gdb.py" "$installed/"
+cp "$tools/libzarnex-foundation-gdb.py" "$installed/$(basename "$library")-gdb.py"
 
 export ZARNEX_ROWS ZARNEX_NATVIS LC_ALL=C.UTF-8 PYTHONDONTWRITEBYTECODE=1
 ZARNEX_ROWS=$(dirname "$0")/rows.txt
