@@ -5,6 +5,7 @@
 #include <zarnex/strings/ZString.h>
 
 #include <algorithm>
+#include <array>
 #include <cwchar>
 #include <utility>
 #include <vector>
@@ -110,12 +111,16 @@ struct Pair {
     ZString string;
     Text text;
 
+    Pair() : string(0, std::array{-1, 1, 5}[made++ % 3]) {} // of each growth step one
+
     void check() const {
         FUZZ_REQUIRE(text == unitsOf(string));
         FUZZ_REQUIRE(string.length() == lengthOf(text));
         FUZZ_REQUIRE(string.allocLength() > lengthOf(text));
         FUZZ_REQUIRE(string.isEmpty() == int(text.empty()));
     }
+
+    inline static unsigned made = 0;
 };
 
 void compare(const Pair& a, const Pair& b) {
@@ -233,16 +238,19 @@ void edit(fuzz::Input& input, Pair& a, Pair& b) {
         break;
     }
     case 10:
-        a.string.truncate(at);
+        at % 2 == 0 ? a.string.truncate(at) : a.string.resize(at);
+        FUZZ_REQUIRE(a.string.allocLength() == std::max(at, 0) + 1);
         a.text.resize(std::min(a.text.size(), static_cast<std::size_t>(std::max(at, 0))));
         break;
     case 11:
         a.string.trimLeft();
         a.text = trimmed(a.text, true);
+        FUZZ_REQUIRE(a.string.allocLength() == lengthOf(a.text) + 1);
         break;
     case 12:
         a.string.trimRight();
         a.text = trimmed(a.text, false);
+        FUZZ_REQUIRE(a.string.allocLength() == lengthOf(a.text) + 1);
         break;
     case 13:
         a.string.toLower();
