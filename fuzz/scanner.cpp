@@ -43,7 +43,7 @@ std::vector<double> toldAround(const std::wstring& text, int tokens) {
     return told;
 }
 
-void tryTaking(const std::wstring& text, int tokens) {
+void tryTakenCharacter(const std::wstring& text, int tokens) {
     if (text.size() > fuzz::TokenModel::mostHeld)
         return; // what is taken may have parted a token that is too long
     FUZZ_REQUIRE(toldAround<ZUnitScanner>(text, tokens) == toldAround<AskedScanner>(text, tokens));
@@ -128,22 +128,24 @@ bool isNear(double a, double b) {
     return a == b || std::fabs(a - b) <= 1e-15 * std::fabs(b);
 }
 
+// What `take` makes a quantity of, where a bare number is of the unit `preferred`.
+template <class Quantity, class Take>
+void tryTaking(const std::wstring& text, int preferred, Take take) {
+    readFirst(L"7");
+    const Read expected = readAs(Quantity().getUnitId(), text, preferred, 7.0);
+    Quantity quantity(3.0);
+    take(quantity);
+    FUZZ_REQUIRE(isNear(quantity, expected.value));
+    FUZZ_REQUIRE((quantity.isValid() != 0) == expected.isValid);
+}
+
 template <class Quantity>
 void tryReading(const std::wstring& text, int preferred) {
-    const int own = Quantity().getUnitId();
     const ZString typed(text.c_str());
-    readFirst(L"7");
-    Read expected = readAs(own, text, 1, 7.0);
-    const Quantity read(typed);
-    FUZZ_REQUIRE(isNear(read, expected.value));
-    FUZZ_REQUIRE((read.isValid() != 0) == expected.isValid);
-
-    readFirst(L"7");
-    expected = readAs(own, text, preferred, 7.0);
-    Quantity set(3.0);
-    set.setStringWithUnits(typed, preferred);
-    FUZZ_REQUIRE(isNear(set, expected.value));
-    FUZZ_REQUIRE((set.isValid() != 0) == expected.isValid);
+    tryTaking<Quantity>(text, 1, [&](Quantity& q) { q = Quantity(typed); });
+    tryTaking<Quantity>(text, 1, [&](Quantity& q) { q = typed; });
+    tryTaking<Quantity>(text, preferred,
+                        [&](Quantity& q) { q.setStringWithUnits(typed, preferred); });
 }
 
 // Whether what is displayed can be read again.
@@ -240,7 +242,7 @@ void tryInput(fuzz::Input input) {
     tryScanner<ZUnitScanner>(typed, 5.0);
     readFirst(L"5");
     tryScanner<AskedScanner>(typed, 5.0);
-    tryTaking(typed, unit % 6);
+    tryTakenCharacter(typed, unit % 6);
     const auto read = [&](auto... each) { (tryReading<decltype(each)>(typed, unit), ...); };
     read(ZMillimeter(), ZCentimeter(), ZInch(), ZEmbPoint(), ZSpi(), ZSquareCentimeter(),
          ZMillimeterPerSec(), ZCentimeterPerSec());

@@ -160,11 +160,6 @@ TEST(ZList, EqualityComparesElementByElement) {
     EXPECT_EQ(lists[4].find(nan), -1);
 }
 
-static_assert(std::bidirectional_iterator<Ints::iterator>);
-static_assert(std::bidirectional_iterator<Ints::const_reverse_iterator>);
-static_assert(std::ranges::bidirectional_range<const Ints>);
-static_assert(std::is_convertible_v<Ints::iterator, Ints::const_iterator>);
-static_assert(!std::is_convertible_v<Ints::const_iterator, Ints::iterator>);
 static_assert(std::is_same_v<decltype(*std::declval<Ints&>().rbegin()), int&>);
 
 TEST(ZList, IteratorsServeTheStandardAlgorithms) {
