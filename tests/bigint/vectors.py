@@ -3,8 +3,8 @@
 
     ./vectors.py > vectors.txt
 
-A row is a kind, its operands and all results, numbers in hexadecimal but the counts of
-shifts and bits, which are decimal. The same rows come out every time.
+A row is a kind, its operands and all results, in hexadecimal. The same rows come out every
+time. They are the long numbers, for which the model of fuzz/bigint.cpp is too slow.
 """
 
 import random
@@ -45,21 +45,15 @@ def pair(a, b):
     row("pair", a, b, a + b, a - b, a * b, a % b if b else 0)
 
 
-def shift(a):
-    count = rng.choice([0, 1, 63, 64, 65, rng.randrange(200), a.bit_length(), a.bit_length() // 2])
-    print("shift", f"{a:x}", count, f"{a << count:x}", f"{a >> count:x}", a.bit_length())
-
-
 def power(a, b, c):
     row("power", a, b, c, pow(a, b, c))
 
 
-for bits in [511, 512, 513, 1000, 1791, 1792, 2048, 3072, 4096, 8192]:
+for bits in [1791, 1792, 3072, 8192]:
     pair(pattern(bits), pattern(bits))
     pair(edgy(bits), edgy(rng.randrange(1, bits)))
     a = edgy(bits)
     pair(a, a)
-    shift(plain(bits))
 
 # Dividends that are just below or at a multiple: the guessed quotient is too great.
 for length in [65, 127, 128, 129, 192, 320, 512]:
