@@ -230,7 +230,7 @@ struct Owned {
 
 void changeRing(fuzz::Input& input, std::vector<Owned>& pool, Ring& a, Ring& b) {
     Owned& any = *at(pool, input.choice(sizeOf(pool)));
-    const int i = input.between(-2, 14);
+    const int i = input.choice(16) == 0 ? input.integer<int>() : input.between(-2, 14);
     const int inA = positionOf(a.nodes, any.node);
     const auto taken = [&](DLLNode* node) {
         for (Owned& each : pool) {

@@ -49,9 +49,8 @@ int orderOf(const Text& a, const Text& b) {
 }
 
 int wrapped(int start, const Text& text) {
-    while (start < 0 && !text.empty())
-        start += lengthOf(text);
-    return start;
+    return start >= 0 || text.empty() ? start
+                                      : (start % lengthOf(text) + lengthOf(text)) % lengthOf(text);
 }
 
 int positionOf(std::size_t found) {
@@ -139,8 +138,12 @@ void compare(const Pair& a, const Pair& b) {
     }
 }
 
+int startFrom(fuzz::Input& input) {
+    return input.choice(8) == 0 ? input.integer<int>() : input.between(-20, 200);
+}
+
 void search(fuzz::Input& input, const Pair& a, const Pair& b) {
-    const int start = input.between(-20, 200);
+    const int start = startFrom(input);
     for (const int flag : {0, 1}) {
         FUZZ_REQUIRE(a.string.findString(unitsOf(b.string), start, flag) ==
                      findString(a.text, b.text, start, flag));
@@ -230,9 +233,10 @@ void edit(fuzz::Input& input, Pair& a, Pair& b) {
         break;
     }
     case 9: {
+        const int start = startFrom(input);
         const int count = input.between(-2, 60);
-        const ZString part = a.string.subString(at, count);
-        FUZZ_REQUIRE(unitsOf(part) == subString(a.text, at, count));
+        const ZString part = a.string.subString(start, count);
+        FUZZ_REQUIRE(unitsOf(part) == subString(a.text, start, count));
         b.string = part;
         b.text = unitsOf(part);
         break;

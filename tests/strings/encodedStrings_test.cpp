@@ -115,6 +115,7 @@ TYPED_TEST(Encoded, TakesBytesAndTextFromInside) {
     string += "mm"; // of bytes, whatever the class
     string.set(this->text("<%s>").c_str(), &reader[0]);
     EXPECT_EQ(this->units(string), this->text("<45mm>"));
+    EXPECT_EQ(string.startsWith(nullptr, 1) + ZString(L"45").startsWith(nullptr, 1), 0);
 }
 
 // The formats' own text is narrow in the one class and wide in the other.
