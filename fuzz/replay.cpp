@@ -23,7 +23,8 @@ std::vector<Bytes> inputsIn(char** folders, int count) {
     for (int i = 0; i < count; ++i)
         if (std::filesystem::exists(folders[i])) // else nothing was found yet
             for (const auto& entry : std::filesystem::directory_iterator(folders[i]))
-                paths.push_back(entry.path());
+                if (entry.file_size() > 0)
+                    paths.push_back(entry.path());
     std::sort(paths.begin(), paths.end());
     std::vector<Bytes> inputs;
     for (const auto& path : paths) {
