@@ -236,15 +236,17 @@ void tryBlockArray(fuzz::Input& input) {
             break;
         case 3: {
             const int from = input.between(-3, 120);
-            FUZZ_REQUIRE(array.move(i, from, from + int(value), 1) == 0);
-            move(i, from, int(value));
+            const int count = input.between(0, 600); // a chunk has 256 elements
+            FUZZ_REQUIRE(array.move(i, from, from + count, 1) == 0);
+            move(i, from, count);
             break;
         }
         case 4: {
             const int from = input.between(-3, 120);
-            FUZZ_REQUIRE(array.copy(i, from, long(value), 1) == 0);
-            move(i, from, int(value));
-            if (value >= 1 && !isFrozen)
+            const int count = input.between(0, 600);
+            FUZZ_REQUIRE(array.copy(i, from, count, 1) == 0);
+            move(i, from, count);
+            if (count >= 1 && !isFrozen)
                 load();
             break;
         }

@@ -127,13 +127,27 @@ void tryLists(fuzz::Input& input) {
 
 // ---- ZSortList
 
+/// Ordered by `key` alone; `serial` tells equal ones apart.
+struct Keyed {
+    int key, serial;
+
+    bool operator>(const Keyed& other) const {
+        return key > other.key;
+    }
+    bool operator==(const Keyed& other) const {
+        return key == other.key;
+    }
+};
+
 void trySortList(fuzz::Input& input) {
-    const int ascending = input.choice(2);
-    ZSortList<int> list(ascending);
-    Values values;
-    const auto isBefore = [=](int a, int b) { return ascending ? a < b : a > b; };
+    const int ascending = input.choice(3) - 1; // whatever is not 0
+    ZSortList<Keyed> list(ascending);
+    std::vector<Keyed> values;
+    const auto isBefore = [=](const Keyed& a, const Keyed& b) {
+        return ascending != 0 ? b > a : a > b;
+    };
     for (int steps = 0; !input.atEnd() && steps < 200; ++steps) {
-        const int value = input.integer<int>();
+        const Keyed value{input.choice(2) != 0 ? input.choice(8) : input.integer<int>(), steps};
         const auto place = std::upper_bound(values.begin(), values.end(), value, isBefore);
         switch (input.choice(4)) {
         case 0:
@@ -148,16 +162,28 @@ void trySortList(fuzz::Input& input) {
             break;
         }
         default:
-            FUZZ_REQUIRE(list.add(value) == value);
+            FUZZ_REQUIRE(list.add(value).serial == steps);
             values.insert(place, value);
         }
-        FUZZ_REQUIRE(std::equal(list.begin(), list.end(), values.begin(), values.end()));
+        FUZZ_REQUIRE(
+            std::equal(list.begin(), list.end(), values.begin(), values.end(),
+                       [](const Keyed& a, const Keyed& b) { return a.serial == b.serial; }));
     }
 }
 
 // ---- DLList and Stack
 
-class Node : public DLLNode {};
+class Node : public DLLNode {
+public:
+    Node() {
+        ++alive;
+    }
+    ~Node() override {
+        --alive;
+    }
+
+    inline static int alive = 0;
+};
 
 struct Ring {
     Stack list;
@@ -186,11 +212,13 @@ struct Ring {
         nodes.erase(std::find(nodes.begin(), nodes.end(), node));
     }
 
-    void check() const {
+    void check() {
         FUZZ_REQUIRE(list.length() == sizeOf(nodes));
         FUZZ_REQUIRE(list.current() == current);
         for (int i = -1; i <= sizeOf(nodes); ++i)
             FUZZ_REQUIRE(list[i] == at(i));
+        for (Node* const node : nodes)
+            FUZZ_REQUIRE(&list.pred(*node) == next(node, -1));
     }
 };
 
@@ -202,7 +230,7 @@ struct Owned {
 
 void changeRing(fuzz::Input& input, std::vector<Owned>& pool, Ring& a, Ring& b) {
     Owned& any = *at(pool, input.choice(sizeOf(pool)));
-    const int i = input.between(-2, 14);
+    const int i = input.choice(16) == 0 ? input.integer<int>() : input.between(-2, 14);
     const int inA = positionOf(a.nodes, any.node);
     const auto taken = [&](DLLNode* node) {
         for (Owned& each : pool) {
@@ -270,17 +298,23 @@ void changeRing(fuzz::Input& input, std::vector<Owned>& pool, Ring& a, Ring& b) 
     }
 }
 
-void tryRings(fuzz::Input& input) {
+void changeRings(fuzz::Input& input, std::vector<Owned>& pool) {
     Ring rings[3];
-    std::vector<Owned> pool(10);
     for (int steps = 0; !input.atEnd() && steps < 200; ++steps) {
         changeRing(input, pool, rings[input.choice(3)], rings[input.choice(3)]);
-        for (const Ring& ring : rings)
+        for (Ring& ring : rings)
             ring.check();
     }
+    FUZZ_REQUIRE(Node::alive == sizeOf(pool));
+}
+
+void tryRings(fuzz::Input& input) {
+    std::vector<Owned> pool(10);
+    changeRings(input, pool);
     for (const Owned& each : pool)
         if (each.isFree)
-            delete each.node; // the lists delete the others
+            delete each.node; // the lists have deleted the others
+    FUZZ_REQUIRE(Node::alive == 0);
 }
 
 } // namespace

@@ -1,4 +1,5 @@
-/// Conversions between encodings, against the C library's iconv and a plain reader of UTF-8.
+/// Conversions between encodings, against a plain reader and writer of UTF-8 and, where the C
+/// library has one, iconv.
 
 #include "fuzz/fuzz.h"
 
@@ -12,15 +13,27 @@
 #include <string>
 #include <vector>
 
+#if !defined(_WIN32)
 #include <iconv.h>
+#endif
 
 namespace {
 
 constexpr wchar_t replacement = 0xFFFD;
+constexpr unsigned utf8 = 65001;
+constexpr bool hasPairs = sizeof(wchar_t) == 2;
 
 bool isTrail(const std::string& text, std::size_t i, int least = 0x80, int most = 0xBF) {
     const int byte = i < text.size() ? static_cast<unsigned char>(text[i]) : 0;
     return byte >= least && byte <= most;
+}
+
+void appendWide(std::wstring& wide, unsigned value) {
+    if (hasPairs && value > 0xFFFF) {
+        wide += static_cast<wchar_t>(0xD7C0 + (value >> 10));
+        value = 0xDC00 | (value & 0x3FF);
+    }
+    wide += static_cast<wchar_t>(value);
 }
 
 /// By the table of well-formed sequences; an ill-formed one is replaced up to where it went
@@ -54,17 +67,22 @@ std::wstring fromUtf8(const std::string& text) {
             least = 0x80;
             most = 0xBF;
         }
-        wide += trails > 0 ? replacement : static_cast<wchar_t>(value);
+        appendWide(wide, static_cast<unsigned>(trails > 0 ? replacement : value));
     }
     return wide;
 }
 
-/// One unit, one character; what is none is replaced.
+unsigned unitAt(const std::wstring& wide, std::size_t i) {
+    return i < wide.size() ? static_cast<unsigned>(wide[i]) : 0u;
+}
+
+/// One unit or pair, one character; what is none is replaced.
 std::string toUtf8(const std::wstring& wide) {
-    static_assert(sizeof(wchar_t) == 4);
     std::string text;
-    for (const wchar_t unit : wide) {
-        unsigned value = static_cast<unsigned>(unit);
+    for (std::size_t i = 0; i < wide.size(); ++i) {
+        unsigned value = unitAt(wide, i);
+        if (hasPairs && value >> 10 == 0x36 && unitAt(wide, i + 1) >> 10 == 0x37)
+            value = ((value & 0x3FF) << 10 | (unitAt(wide, ++i) & 0x3FF)) + 0x10000;
         if (value > 0x10FFFF || (value >= 0xD800 && value < 0xE000))
             value = replacement;
         const auto put = [&](unsigned byte) { text += static_cast<char>(byte); };
@@ -79,6 +97,21 @@ std::string toUtf8(const std::wstring& wide) {
             put(0x80 | (value >> (6 * left) & 0x3F));
     }
     return text;
+}
+
+#if defined(_WIN32)
+bool isSystemUtf8() {
+    return mbsToWide("\xC3\xA9").length() == 1 && strToMbs(L"\u0416").length() == 2;
+}
+
+/// There is none.
+template <class Out, class In>
+std::optional<std::basic_string<Out>> byIconv(const char*, const char*, const In&) {
+    return std::nullopt;
+}
+#else
+constexpr bool isSystemUtf8() {
+    return true;
 }
 
 /// What iconv makes of it; nothing if any of it is refused.
@@ -101,10 +134,11 @@ std::optional<std::basic_string<Out>> byIconv(const char* to, const char* from,
     out.resize(out.size() - left / sizeof(Out));
     return out;
 }
+#endif
 
 // The C library knows sequences of five bytes and more.
 bool isUnicode(const std::wstring& wide) {
-    return std::all_of(wide.begin(), wide.end(), [](wchar_t unit) { return unit <= 0x10FFFF; });
+    return std::all_of(wide.begin(), wide.end(), [](auto unit) { return unit <= 0x10FFFF; });
 }
 
 // Into `room` units: all, or what fits of it, and always terminated.
@@ -118,6 +152,9 @@ void copyInto(const std::basic_string<In>& text, const std::basic_string<Out>& w
     FUZZ_REQUIRE(whole.compare(0, copied.size(), copied) == 0);
     FUZZ_REQUIRE(written == (needed <= out.size() ? needed : zarnex::errorSize));
     FUZZ_REQUIRE(needed > out.size() || copied == whole);
+    FUZZ_REQUIRE(copied.size() + 4 >= std::min(needed, out.size())); // but for a character
+    for (std::size_t i = copied.size() + 1; i + 1 < out.size(); ++i)
+        FUZZ_REQUIRE(out[i] == (needed <= out.size() ? Out{'x'} : Out{}));
 }
 
 void tryUtf8(const std::string& text, int room) {
@@ -125,15 +162,22 @@ void tryUtf8(const std::string& text, int room) {
     const ZMultiByteString bytes(text.c_str());
     const ZWideString wide = utf8ToWide(bytes);
     FUZZ_REQUIRE(wide == expected.c_str());
-    FUZZ_REQUIRE(mbsToWide(bytes) == wide);
+    FUZZ_REQUIRE(mbsToWide(bytes, utf8) == wide);
     ZString string(L"a text that is longer than some");
     utf8ToStr(bytes, string);
     FUZZ_REQUIRE(string.isEqual(expected.c_str()));
-    FUZZ_REQUIRE(ZString(text.c_str()).isEqual(expected.c_str()));
-    FUZZ_REQUIRE(StringUtils::unicodeSize(text.c_str()) == expected.size() + 1);
-    FUZZ_REQUIRE(wideToUtf8(wide) == toUtf8(expected).c_str());
+    FUZZ_REQUIRE(string.allocLength() == wide.allocLength());
+    FUZZ_REQUIRE(wide.allocLength() == static_cast<int>(expected.size()) + 1);
+    const ZMultiByteString back = wideToUtf8(wide);
+    FUZZ_REQUIRE(back == toUtf8(expected).c_str());
+    FUZZ_REQUIRE(back.allocLength() == static_cast<int>(toUtf8(expected).size()) + 1);
     const auto accepted = byIconv<wchar_t>("WCHAR_T", "UTF-8", text);
     FUZZ_REQUIRE(!accepted || !isUnicode(*accepted) || *accepted == expected);
+    if (!isSystemUtf8())
+        return;
+    FUZZ_REQUIRE(mbsToWide(bytes) == wide);
+    FUZZ_REQUIRE(ZString(text.c_str()).isEqual(expected.c_str()));
+    FUZZ_REQUIRE(StringUtils::unicodeSize(text.c_str()) == expected.size() + 1);
     copyInto(text, expected, room);
     ZGenericString generic(text.c_str());
     if (!text.empty())
@@ -145,11 +189,16 @@ void tryWide(const std::wstring& wide, int room) {
     const ZString string(wide.c_str());
     FUZZ_REQUIRE(strToUtf8(string) == expected.c_str());
     ZMultiByteString bytes("what was there");
+    strToMbs(wide.c_str(), bytes, utf8);
+    FUZZ_REQUIRE(bytes == expected.c_str());
+    FUZZ_REQUIRE(bytes.allocLength() == static_cast<int>(expected.size()) + 1);
+    const auto accepted = byIconv<char>("UTF-8", "WCHAR_T", wide);
+    FUZZ_REQUIRE(!accepted || !isUnicode(wide) || *accepted == expected);
+    if (!isSystemUtf8())
+        return;
     strToMbs(wide.c_str(), bytes);
     FUZZ_REQUIRE(bytes == expected.c_str());
     FUZZ_REQUIRE(string.multiByteSize() == static_cast<int>(expected.size()) + 1);
-    const auto accepted = byIconv<char>("UTF-8", "WCHAR_T", wide);
-    FUZZ_REQUIRE(!accepted || !isUnicode(wide) || *accepted == expected);
     copyInto(wide, expected, room);
 }
 
@@ -170,8 +219,11 @@ void tryCodePage(fuzz::Input& input, const std::string& text, const std::wstring
     if (const auto accepted = byIconv<char>(name.c_str(), "WCHAR_T", wide))
         FUZZ_REQUIRE(back == accepted->c_str());
     // Whatever was refused, the sizes agree with what is there.
-    FUZZ_REQUIRE(converted.length() < converted.allocLength());
-    FUZZ_REQUIRE(back.length() < back.allocLength());
+    FUZZ_REQUIRE(converted.length() + 1 == converted.allocLength());
+    FUZZ_REQUIRE(back.length() + 1 == back.allocLength());
+    // What came out has a character for each again.
+    const ZWideString again = mbsToWide(wideToMbs(converted, codePage), codePage);
+    FUZZ_REQUIRE(again.length() == converted.length());
 }
 
 // Bytes as they come, or the edges of the table of well-formed sequences, whole and cut off.

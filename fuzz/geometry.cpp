@@ -128,10 +128,14 @@ void tryRoots(fuzz::Input& input) {
     const ZrnRandomGenerator random(input.integer<long>());
     ZrnRandomGenerator2 twister(input.integer<long>());
     twister.index = input.integer<int>();
-    const float number = random.random();
-    FUZZ_REQUIRE(number > 0.0f && number < 1.0f);
-    for (int i = 0; i < 3; ++i)
-        FUZZ_REQUIRE(twister.randomOpenEnd() < 1.0 && twister.randomClosedEnd() <= 1.0);
+    for (const float number : {random.random(), zrnrandom()})
+        FUZZ_REQUIRE(number > 0.0f && number < 1.0f);
+    for (int i = 0; i < 3; ++i) {
+        for (const double number : {twister.random(), twister.randomOpenEnd()})
+            FUZZ_REQUIRE(number >= 0.0 && number < 1.0);
+        const double closed = twister.randomClosedEnd();
+        FUZZ_REQUIRE(closed >= 0.0 && closed <= 1.0);
+    }
 }
 
 void tryPointLists(fuzz::Input& input) {

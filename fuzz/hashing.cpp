@@ -57,7 +57,7 @@ Wide shiftedAndXored(const std::wstring& text) {
 /// Any characters, those among them whose code unit is 0. A byte is a character, or tells that
 /// one of more bytes follows.
 std::wstring textFrom(fuzz::Input& input) {
-    constexpr wchar_t empty = 0x10000;
+    constexpr auto empty = static_cast<wchar_t>(sizeof(wchar_t) == 4 ? 0x10000 : 1);
     std::wstring text;
     for (int left = input.between(0, 80); left > 0; --left) {
         const int kind = input.byte();

@@ -6,8 +6,10 @@
 
 #include <zarnex/foundation.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cwchar>
+#include <vector>
 
 namespace {
 
@@ -16,6 +18,36 @@ class AskedScanner : public ZUnitScanner {
 public:
     using ZUnitScanner::ZUnitScanner;
 };
+
+// Makes `number` the latest that the process read.
+void readFirst(const wchar_t* number) {
+    ZUnitScanner scanner(number);
+    scanner.yylex();
+}
+
+/// What a scanner tells of the first tokens, where its host takes a character behind `tokens`.
+template <class Scanner>
+std::vector<double> toldAround(const std::wstring& text, int tokens) {
+    readFirst(L"5");
+    Scanner scanner(text.c_str());
+    std::vector<double> told;
+    for (int token = 1, count = 0; token != 0; ++count) {
+        if (count == tokens)
+            told.push_back(scanner.yygetc());
+        token = scanner.yylex();
+        for (const int each : {token, scanner.wordDropped(), scanner.tokenBegin()})
+            told.push_back(each);
+        told.push_back(scanner.tokenEnd());
+        told.push_back(scanner.value);
+    }
+    return told;
+}
+
+void tryTakenCharacter(const std::wstring& text, int tokens) {
+    if (text.size() > fuzz::TokenModel::mostHeld)
+        return; // what is taken may have parted a token that is too long
+    FUZZ_REQUIRE(toldAround<ZUnitScanner>(text, tokens) == toldAround<AskedScanner>(text, tokens));
+}
 
 template <class Scanner>
 void tryScanner(const std::wstring& text, double latest) {
@@ -96,28 +128,24 @@ bool isNear(double a, double b) {
     return a == b || std::fabs(a - b) <= 1e-15 * std::fabs(b);
 }
 
-// Makes `number` the latest that the process read.
-void readFirst(const wchar_t* number) {
-    ZUnitScanner scanner(number);
-    scanner.yylex();
+// What `take` makes a quantity of, where a bare number is of the unit `preferred`.
+template <class Quantity, class Take>
+void tryTaking(const std::wstring& text, int preferred, Take take) {
+    readFirst(L"7");
+    const Read expected = readAs(Quantity().getUnitId(), text, preferred, 7.0);
+    Quantity quantity(3.0);
+    take(quantity);
+    FUZZ_REQUIRE(isNear(quantity, expected.value));
+    FUZZ_REQUIRE((quantity.isValid() != 0) == expected.isValid);
 }
 
 template <class Quantity>
 void tryReading(const std::wstring& text, int preferred) {
-    const int own = Quantity().getUnitId();
     const ZString typed(text.c_str());
-    readFirst(L"7");
-    Read expected = readAs(own, text, 1, 7.0);
-    const Quantity read(typed);
-    FUZZ_REQUIRE(isNear(read, expected.value));
-    FUZZ_REQUIRE((read.isValid() != 0) == expected.isValid);
-
-    readFirst(L"7");
-    expected = readAs(own, text, preferred, 7.0);
-    Quantity set(3.0);
-    set.setStringWithUnits(typed, preferred);
-    FUZZ_REQUIRE(isNear(set, expected.value));
-    FUZZ_REQUIRE((set.isValid() != 0) == expected.isValid);
+    tryTaking<Quantity>(text, 1, [&](Quantity& q) { q = Quantity(typed); });
+    tryTaking<Quantity>(text, 1, [&](Quantity& q) { q = typed; });
+    tryTaking<Quantity>(text, preferred,
+                        [&](Quantity& q) { q.setStringWithUnits(typed, preferred); });
 }
 
 // Whether what is displayed can be read again.
@@ -172,9 +200,9 @@ void tryNumber(const std::wstring& text) {
 }
 
 void tryInteger(const std::wstring& text) {
-    const long expected = std::wcstol(text.c_str(), nullptr, 10);
-    const long read = static_cast<long>(double(ZNumber(ZString(text.c_str()))));
-    FUZZ_REQUIRE(read == std::min(std::max(expected, -2147483648L), 2147483647L));
+    const long long expected = std::wcstol(text.c_str(), nullptr, 10); // may be of 64 bits
+    const auto read = static_cast<long long>(double(ZNumber(ZString(text.c_str()))));
+    FUZZ_REQUIRE(read == std::clamp(expected, -2147483648LL, 2147483647LL));
 }
 
 bool endsProcess(const std::wstring& text) {
@@ -214,6 +242,7 @@ void tryInput(fuzz::Input input) {
     tryScanner<ZUnitScanner>(typed, 5.0);
     readFirst(L"5");
     tryScanner<AskedScanner>(typed, 5.0);
+    tryTakenCharacter(typed, unit % 6);
     const auto read = [&](auto... each) { (tryReading<decltype(each)>(typed, unit), ...); };
     read(ZMillimeter(), ZCentimeter(), ZInch(), ZEmbPoint(), ZSpi(), ZSquareCentimeter(),
          ZMillimeterPerSec(), ZCentimeterPerSec());

@@ -40,6 +40,13 @@ int compareBy(Order order, std::string_view a, std::string_view b) {
 
 struct Failure {};
 
+class Throwing : public QSort::Callback {
+public:
+    int compare(const void*, const void*) override {
+        throw Failure();
+    }
+};
+
 class Descending : public QSort::Callback {
 public:
     int compare(const void* a, const void* b) override {
@@ -58,6 +65,7 @@ public:
     }
 
     int compare(const void* a, const void* b) override {
+        FUZZ_REQUIRE(!hasThrown()); // else it is not asked any more
         const std::string_view left = element(a);
         const std::string_view right = element(b);
         if (sortsInside_)
@@ -88,6 +96,14 @@ private:
         Descending descending;
         QSort::sort(few, 4, 1, descending);
         FUZZ_REQUIRE(std::strcmp(few, "dcba") == 0);
+        Throwing throwing;
+        bool threw = false;
+        try {
+            QSort::sort(few, 4, 1, throwing);
+        } catch (const Failure&) {
+            threw = true;
+        }
+        FUZZ_REQUIRE(threw);
     }
 
     fuzz::Input& input_;

@@ -5,6 +5,7 @@
 #include <zarnex/strings/ZString.h>
 
 #include <algorithm>
+#include <array>
 #include <cwchar>
 #include <utility>
 #include <vector>
@@ -48,9 +49,8 @@ int orderOf(const Text& a, const Text& b) {
 }
 
 int wrapped(int start, const Text& text) {
-    while (start < 0 && !text.empty())
-        start += lengthOf(text);
-    return start;
+    return start >= 0 || text.empty() ? start
+                                      : (start % lengthOf(text) + lengthOf(text)) % lengthOf(text);
 }
 
 int positionOf(std::size_t found) {
@@ -110,12 +110,16 @@ struct Pair {
     ZString string;
     Text text;
 
+    Pair() : string(0, std::array{-1, 1, 5}[made++ % 3]) {} // of each growth step one
+
     void check() const {
         FUZZ_REQUIRE(text == unitsOf(string));
         FUZZ_REQUIRE(string.length() == lengthOf(text));
         FUZZ_REQUIRE(string.allocLength() > lengthOf(text));
         FUZZ_REQUIRE(string.isEmpty() == int(text.empty()));
     }
+
+    inline static unsigned made = 0;
 };
 
 void compare(const Pair& a, const Pair& b) {
@@ -134,8 +138,12 @@ void compare(const Pair& a, const Pair& b) {
     }
 }
 
+int startFrom(fuzz::Input& input) {
+    return input.choice(8) == 0 ? input.integer<int>() : input.between(-20, 200);
+}
+
 void search(fuzz::Input& input, const Pair& a, const Pair& b) {
-    const int start = input.between(-20, 200);
+    const int start = startFrom(input);
     for (const int flag : {0, 1}) {
         FUZZ_REQUIRE(a.string.findString(unitsOf(b.string), start, flag) ==
                      findString(a.text, b.text, start, flag));
@@ -225,24 +233,28 @@ void edit(fuzz::Input& input, Pair& a, Pair& b) {
         break;
     }
     case 9: {
+        const int start = startFrom(input);
         const int count = input.between(-2, 60);
-        const ZString part = a.string.subString(at, count);
-        FUZZ_REQUIRE(unitsOf(part) == subString(a.text, at, count));
+        const ZString part = a.string.subString(start, count);
+        FUZZ_REQUIRE(unitsOf(part) == subString(a.text, start, count));
         b.string = part;
         b.text = unitsOf(part);
         break;
     }
     case 10:
-        a.string.truncate(at);
+        at % 2 == 0 ? a.string.truncate(at) : a.string.resize(at);
+        FUZZ_REQUIRE(a.string.allocLength() == std::max(at, 0) + 1);
         a.text.resize(std::min(a.text.size(), static_cast<std::size_t>(std::max(at, 0))));
         break;
     case 11:
         a.string.trimLeft();
         a.text = trimmed(a.text, true);
+        FUZZ_REQUIRE(a.string.allocLength() == lengthOf(a.text) + 1);
         break;
     case 12:
         a.string.trimRight();
         a.text = trimmed(a.text, false);
+        FUZZ_REQUIRE(a.string.allocLength() == lengthOf(a.text) + 1);
         break;
     case 13:
         a.string.toLower();

@@ -36,5 +36,5 @@ for target in "${targets[@]}"; do
     say "| $target | $executions | $spent | $((executions / spent)) | $edges |"
     total=$((total + executions))
 done
-say "" "$total executions in all. $(find fuzz/seeds fuzz/finds -type f 2>/dev/null | wc -l) inputs are checked in, and the tests on
-Linux replay them."
+say "" "$total executions in all. $(find fuzz/seeds fuzz/finds -type f 2>/dev/null | wc -l) inputs are checked in; the tests replay
+them and others that are made of them."

@@ -5,7 +5,6 @@
 #include <zarnex/bigint/SigUInt.h>
 
 #include <ostream>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -31,15 +30,4 @@ inline SigUInt fromHex(std::string digits) {
     for (std::size_t i = 0; i < digits.size(); i += 2)
         bytes.push_back(static_cast<unsigned char>(std::stoi(digits.substr(i, 2), nullptr, 16)));
     return SigUInt(bytes.data(), static_cast<int>(bytes.size()));
-}
-
-/// A number of a random length below `most` bits, every other time in long runs of ones
-/// and zeros.
-inline SigUInt randomNumber(std::mt19937_64& random, int most) {
-    const int bits = static_cast<int>(random() % 1000003) % most;
-    const bool runs = random() % 2 != 0;
-    SigUInt number;
-    while (number.bitLength() < bits)
-        number = (number << 64) + (runs ? 0 - (random() & 1) : random());
-    return number >> (number.bitLength() - bits);
 }

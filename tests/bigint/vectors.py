@@ -3,8 +3,8 @@
 
     ./vectors.py > vectors.txt
 
-A row is a kind, its operands and all results, numbers in hexadecimal but the counts of
-shifts and bits, which are decimal. The same rows come out every time.
+A row is a kind, its operands and all results, in hexadecimal. The same rows come out every
+time. They are the long numbers, for which the model of fuzz/bigint.cpp is too slow.
 """
 
 import random
@@ -45,30 +45,19 @@ def pair(a, b):
     row("pair", a, b, a + b, a - b, a * b, a % b if b else 0)
 
 
-def shift(a):
-    count = rng.choice([0, 1, 63, 64, 65, rng.randrange(200), a.bit_length(), a.bit_length() // 2])
-    print("shift", f"{a:x}", count, f"{a << count:x}", f"{a >> count:x}", a.bit_length())
-
-
 def power(a, b, c):
     row("power", a, b, c, pow(a, b, c))
 
 
-small = [0, 1, 2, 8, 16, 17, 31, 32, 63, 64, 65, 127, 128, 129, 191, 192, 256, 257, 320]
-for _ in range(76):
-    pair(pattern(rng.choice(small)), pattern(rng.choice(small)))
-for _ in range(30):
-    shift(pattern(rng.choice(small)))
-for bits in [511, 512, 513, 1000, 1791, 1792, 2048, 3072, 4096, 8192]:
+for bits in [1791, 1792, 3072, 8192]:
     pair(pattern(bits), pattern(bits))
     pair(edgy(bits), edgy(rng.randrange(1, bits)))
     a = edgy(bits)
     pair(a, a)
-    shift(plain(bits))
 
 # Dividends that are just below or at a multiple: the guessed quotient is too great.
-for _ in range(36):
-    divisor = edgy(rng.choice([65, 127, 128, 129, 192, 320, 512]))
+for length in [65, 127, 128, 129, 192, 320, 512]:
+    divisor = edgy(length)
     quotient = edgy(rng.choice([64, 65, 128, 200, 320]))
     number = divisor * quotient + rng.choice([0, -1, 1, divisor - 1])
     row("remainder", number, divisor, number % divisor)
@@ -77,7 +66,7 @@ for _ in range(36):
 for a, b in [(8192, 1792), (8192, 2500), (4096, 1920), (5000, 3000)]:
     pair(edgy(a), edgy(b))
 
-for bits in [1, 2, 3, 63, 64, 65, 128, 129, 256, 512]:
+for bits in [3, 64, 129, 512]:
     power(plain(bits), plain(bits), pattern(bits) | 1)  # odd
     power(edgy(bits), plain(rng.randrange(bits) + 1), pattern(bits) & ~1 or 2)  # even
     zeros = rng.randrange(bits)

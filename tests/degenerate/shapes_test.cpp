@@ -1,6 +1,4 @@
 #include <zarnex/geometry/DRECT.h>
-#include <zarnex/geometry/ZrnRandomGenerator.h>
-#include <zarnex/geometry/ZrnRandomGenerator2.h>
 #include <zarnex/geometry/circleCentre.h>
 #include <zarnex/geometry/cubic.h>
 #include <zarnex/geometry/quadratic.h>
@@ -105,21 +103,6 @@ TEST(DegenerateRectangles, TestsAgreeWithOperations) {
             UnionDRect(&(aliased = b), &a, &aliased);
             EXPECT_TRUE(sameRect(aliased, around));
             EXPECT_FALSE(EqualDRect(&a, &b) && std::isnan(a.left));
-        }
-    }
-}
-
-TEST(DegenerateRandom, EverySeedAndIndexGivesNumbersInRange) {
-    for (const long seed : {0L, 1L, -1L, LONG_MAX, LONG_MIN}) {
-        ZrnRandomGenerator small(seed);
-        ZrnRandomGenerator2 large(seed);
-        large.randseed(seed);
-        for (const int index : {625, 624, 0, -1, INT_MIN, INT_MAX}) {
-            large.index = index;
-            for (const double value : {double(small.random()), large.random(),
-                                       large.randomOpenEnd(), double(zrnrandom())})
-                EXPECT_TRUE(value >= 0.0 && value < 1.0) << seed << " " << index;
-            EXPECT_LE(large.randomClosedEnd(), 1.0);
         }
     }
 }

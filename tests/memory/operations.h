@@ -2,6 +2,8 @@
 
 #include "tests/memory/failingHeap.h"
 
+#include <zarnex/strings/ZString.h>
+
 #include <functional>
 #include <new>
 #include <vector>
@@ -67,6 +69,10 @@ struct Operation {
     unsigned ways;
     std::function<void(Trial& trial)> perform;
 };
+
+inline bool holds(const ZString& text, const wchar_t* units) {
+    return text.isEqual(units) != 0;
+}
 
 /// `edit` on an object like `begin` makes of it what it makes with memory, and so it does then.
 /// If it `mayGiveUp`, the object may be as it was or empty where a request failed.

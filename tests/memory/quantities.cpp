@@ -4,13 +4,7 @@
 
 #include <zarnex/foundation.h>
 
-#include <cwchar>
-
 namespace {
-
-bool holds(const ZString& text, const wchar_t* units) {
-    return std::wcscmp(static_cast<const wchar_t*>(text), units) == 0;
-}
 
 /// Quantities read from `text` on the failing heap.
 template <class... Quantities>

@@ -21,10 +21,6 @@ const ZMultiByteString longNarrow(longBytes.c_str());
 const ZWideString longWide(longText.c_str());
 const ZString abc(L"abc");
 
-bool holds(const ZString& text, const wchar_t* units) {
-    return std::wcscmp(static_cast<const wchar_t*>(text), units) == 0;
-}
-
 } // namespace
 
 Group stringOperations() {

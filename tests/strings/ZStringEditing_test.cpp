@@ -2,7 +2,6 @@
 
 #include <zarnex/strings/ZString.h>
 
-#include <algorithm>
 #include <climits>
 #include <clocale>
 #include <cwctype>
@@ -144,82 +143,6 @@ TEST(ZString, MapsCase) {
     ZString string(L"aB1\u00E9");
     string.toUpper();
     EXPECT_EQ(wide(string), isDefaultLocale() ? L"AB1\u00E9" : L"AB1\u00C9");
-}
-
-TEST(ZString, EditsLikeTheStandardString) {
-    std::mt19937 random(20260102);
-    const auto pick = [&random](int below) { return static_cast<int>(random() % unsigned(below)); };
-    const auto piece = [&](int most) {
-        std::wstring text(static_cast<std::size_t>(pick(most + 1)), L' ');
-        for (wchar_t& unit : text)
-            unit = L"aaabbb \t\r\n\v"[pick(11)]; // trimmed but for the last
-        return text;
-    };
-    for (int step : {-1, 0, 1, 5, 32}) {
-        ZString string(0, step);
-        std::wstring model;
-        for (int turn = 0; turn < 3000; ++turn) {
-            const std::wstring text = piece(6);
-            const int size = static_cast<int>(model.size()), kind = pick(9);
-            const int odd[] = {INT_MIN, -1, size, INT_MAX};
-            const int start = pick(6) == 0 ? odd[pick(4)] : pick(80) - 40, count = pick(12) - 2;
-            switch (kind) {
-            case 0:
-                string += text.c_str();
-                model += text;
-                break;
-            case 1:
-                string += string;
-                model += model;
-                break;
-            case 2: {
-                const std::wstring wanted = piece(2) + L"a";
-                string.findAndReplace(wanted.c_str(), text.c_str());
-                for (std::size_t at = 0; (at = model.find(wanted, at)) != model.npos;) {
-                    model.replace(at, wanted.size(), text);
-                    at += text.size();
-                }
-                break;
-            }
-            case 3: // a negative start counts from the end, round and round
-                string = string.subString(start, count);
-                model =
-                    start >= size || size == 0
-                        ? L""
-                        : model.substr(static_cast<std::size_t>((start % size + size) % size),
-                                       count < 0 ? model.npos : static_cast<std::size_t>(count));
-                break;
-            case 4:
-                string.trimLeft();
-                model.erase(0, model.find_first_not_of(L" \t\r\n"));
-                break;
-            case 5:
-                string.trimRight();
-                model.erase(model.find_last_not_of(L" \t\r\n") + 1);
-                break;
-            case 6:
-            case 7: {
-                const int slots = turn % 50 - 1;
-                kind == 6 ? string.truncate(slots) : string.resize(slots);
-                ASSERT_EQ(string.allocLength(), (std::max)(slots, 0) + 1);
-                model.resize(static_cast<std::size_t>(std::clamp(slots, 0, size)));
-                break;
-            }
-            case 8:
-                std::wcscpy(string, text.c_str());
-                string.resize();
-                model = text;
-                break;
-            }
-            ASSERT_EQ(wide(string), model) << "step " << step << ", turn " << turn;
-            if (kind == 4 || kind == 5) {
-                ASSERT_EQ(string.allocLength(), string.length() + 1);
-            }
-            const auto found = model.find(text);
-            ASSERT_EQ(string.findString(text.c_str()),
-                      static_cast<int>(text.empty() ? model.size() : found));
-        }
-    }
 }
 
 } // namespace

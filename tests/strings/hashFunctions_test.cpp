@@ -3,37 +3,9 @@
 #include <zarnex/strings/hashFunctions.h>
 
 #include <climits>
-#include <cstdlib>
-#include <random>
 #include <string>
 
 namespace {
-
-// A polynomial of the text's units in `x`, modulo 2^32, from its highest term.
-std::int32_t polynomial(const std::wstring& text, std::uint32_t x, std::uint32_t first) {
-    std::uint32_t sum = 0;
-    std::uint32_t power = 1;
-    for (std::size_t i = text.size(); i-- > 0; power *= x)
-        sum += (static_cast<std::uint32_t>(text[i]) & 0xFFFF) * power;
-    return static_cast<std::int32_t>(sum + first * power);
-}
-
-std::int64_t reduced(std::int32_t hash, std::int64_t size) {
-    return (hash == INT_MIN ? hash : std::int64_t{std::abs(hash)}) % size;
-}
-
-TEST(HashFunctions, ReducePolynomialsOfTheUnits) {
-    std::mt19937 random(11);
-    for (int turn = 0; turn < 2000; ++turn) {
-        std::wstring text;
-        for (auto left = random() % 40; left > 0; --left)
-            text += static_cast<wchar_t>(1 + random() % (sizeof(wchar_t) == 4 ? 0x10FFFF : 0xFFFF));
-        const long size = turn % 2 == 0 ? 1073741827 : 1 + static_cast<long>(random() % 1000);
-        const auto length = static_cast<std::uint32_t>(text.size());
-        ASSERT_EQ(HashFunction1(size)(text.c_str()), reduced(polynomial(text, 4, 0), size));
-        ASSERT_EQ(HashFunction2(size)(text.c_str()), reduced(polynomial(text, 613, length), size));
-    }
-}
 
 TEST(HashFunctions, GiveFixedValues) {
     const struct {
@@ -76,22 +48,13 @@ TEST(ZHashInt, HoldsAndHashesAnInteger) {
     const struct {
         int value;
         int hash;
-    } rows[] = {{0, 0},
-                {3, 5223},
-                {-1, -1741},
-                {INT_MAX, INT_MAX - 1740},
-                {2500000, 57532704},
-                {INT_MIN, INT_MIN}};
+    } rows[] = {{3, 5223}, {INT_MAX, INT_MAX - 1740}, {INT_MIN, INT_MIN}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.value);
         const ZHashInt key(row.value);
         EXPECT_EQ(key.hash(), row.hash);
         EXPECT_EQ(IntHashFunction()(key), row.hash);
         EXPECT_EQ(key.getInt(), row.value);
-        EXPECT_EQ(int(ZHashInt(key)), row.value);
-        const auto sameBits = static_cast<unsigned long long>(row.value); // of a greater number
-        EXPECT_EQ(key == sameBits, row.value >= 0);
-        EXPECT_TRUE(key == ZHashInt(row.value) && !(key != ZHashInt(row.value)));
         EXPECT_TRUE(key == row.value && row.value == key && key != row.value + 1LL && 5L != key);
     }
 }

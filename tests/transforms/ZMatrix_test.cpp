@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <cmath>
 #include <new>
 #include <random>
@@ -21,7 +22,8 @@ namespace {
 using Matrix = ZMatrix<double>;
 
 TEST(ZMatrix, ImpossibleSizesGiveAnEmptyMatrix) {
-    for (const auto& [rows, cols] : {std::pair(-1, 2), {-2, -3}, {65536, 65536}, {0, -1}}) {
+    for (const auto& [rows, cols] :
+         {std::pair(-1, 2), {INT_MIN, INT_MIN}, {65536, 65536}, {INT_MAX, 2}, {0, -1}}) {
         const double value = 1;
         const Matrix m(rows, cols, &value);
         EXPECT_TRUE(m.getRows() == 0 && m.getCols() == 0) << rows << " x " << cols;
@@ -118,6 +120,8 @@ TEST(ZMatrix, DerivedClassesExchangeRowsAndColumnsAndClearForIdentity) {
             swapRow(0, 2);
             swapCol(1, 0);
             swapRow(-1, 0);
+            swapRow(INT_MIN, INT_MAX);
+            swapCol(INT_MAX, INT_MIN);
             swapRow(0, 3);
             swapCol(0, 2);
         }

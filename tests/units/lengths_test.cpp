@@ -7,7 +7,6 @@
 #include <zarnex/units/ZMillimeter.h>
 #include <zarnex/units/ZMillimeterPerSec.h>
 #include <zarnex/units/ZSpi.h>
-#include <zarnex/units/ZSquareCentimeter.h>
 
 #include <cmath>
 #include <limits>
@@ -18,71 +17,6 @@ namespace {
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 const double nan = std::nan("");
-
-// Millimetres a second refuse inches and points; neither speed takes a density.
-TEST(Quantities, ReadEachUnitInTheirOwnOrAsABareNumber) {
-    const struct {
-        const wchar_t* text;
-        double millimeter, centimeter, inch, point, spi, millimeterPerSec, centimeterPerSec, square;
-        int valid;
-    } rows[] = {
-        {L"3", 3, 3, 3, 3, 3, 3, 3, 3, 1},
-        {L"3 mm", 3, 3 / 10.0, 3 / 25.4, 30, 25.4 / 3, 3, 3 / 10.0, 3, 1},
-        {L"3 CM", 30, 3, 3 / 2.54, 300, 2.54 / 3, 30, 3, 3, 1},
-        {L"3\"", 3 * 25.4, 3 * 2.54, 3, 3 * 254.0, 1 / 3.0, 3, 3 * 2.54, 3, 1},
-        {L"3 pt", 3 / 10.0, 3 / 100.0, 3 / 254.0, 3, 254.0 / 3, 3, 3 / 100.0, 3, 1},
-        {L"3 spi", 25.4 / 3, 2.54 / 3, 1 / 3.0, 254.0 / 3, 3, 3, 3, 3, 1},
-        {L"3 per sq cm", 3, 3, 3, 3, 3, 3, 3, 3, 1},
-        {L"-2 mm", -2, -2 / 10.0, -2 / 25.4, -20, -2, -2, -2 / 10.0, -2, 1},
-        {L"-2 spi", -2, -2, -2, -2, -2, -2, -2, -2, 1},
-        {L"0 spi", 0, 0, 0, 0, 0, 0, 0, 0, 1},
-        {L"-0 mm", 0, 0, 0, 0, infinity, 0, 0, 0, 1},
-        {L"mm", 0, 0, 0, 0, 0, 0, 0, 0, 0},
-    };
-    for (const auto& row : rows) {
-        checkRead<ZMillimeter>(row.text, row.millimeter, row.valid);
-        checkRead<ZCentimeter>(row.text, row.centimeter, row.valid);
-        checkRead<ZInch>(row.text, row.inch, row.valid);
-        checkRead<ZEmbPoint>(row.text, row.point, row.valid);
-        checkRead<ZSpi>(row.text, row.spi, row.valid);
-        checkRead<ZMillimeterPerSec>(row.text, row.millimeterPerSec, row.valid);
-        checkRead<ZCentimeterPerSec>(row.text, row.centimeterPerSec, row.valid);
-        checkRead<ZSquareCentimeter>(row.text, row.square, row.valid);
-    }
-}
-
-TEST(Quantities, AWordBehindAnAcceptedUnitIsInvalidAndKeepsTheValue) {
-    checkRead<ZInch>(L"1 in extra", 1.0, 0);
-    checkRead<ZInch>(L"1 in\rx", 1.0, 0);
-    checkRead<ZInch>(L"1 int t", 1.0, 0);
-    checkRead<ZInch>(L"1 in/p", 1.0, 0); // a further token, though it stands at the unit
-    checkRead<ZInch>(L"1 in  \t\r\n", 1.0, 1);
-    checkRead<ZInch>(L"1 in\u00B0", 1.0, 1);
-    checkRead<ZInch>(L"1 extra", 1.0, 1); // no unit: the rest is not looked at
-    checkRead<ZSpi>(L"6 spi more", 6.0, 0);
-    checkRead<ZCentimeterPerSec>(L"5 cm/s fast", 5.0, 0);
-    checkRead<ZSquareCentimeter>(L"40 per sq km", 40.0, 0); // the blank belongs to the unit
-}
-
-TEST(Quantities, AUnitThatIsRefusedLeavesThePreferredOneAndThenTheOwn) {
-    const struct {
-        const wchar_t* text;
-        int preferred;
-        double millimeters;
-    } rows[] = {
-        {L"-2", 6, -2.0}, // a density
-        {L"2", 15, 2.0},  // no length
-        {L"2", -1, 2.0},
-        {L"2 per sq cm", 4, 2 * 25.4},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(testing::Message() << shown(row.text) << " " << row.preferred);
-        ZMillimeter length(nan);
-        length.setStringWithUnits(row.text, row.preferred);
-        EXPECT_EQ(double(length), row.millimeters);
-        EXPECT_TRUE(length.isValid());
-    }
-}
 
 TEST(Lengths, RenderWithTheirLabels) {
     const struct {

@@ -8,9 +8,7 @@
 
 #include <climits>
 #include <cmath>
-#include <cwchar>
 #include <limits>
-#include <random>
 #include <string>
 
 namespace {
@@ -98,23 +96,6 @@ TEST(ZRealNumber, ReadsTheLeadingNumber) {
     for (const auto& row : longRows)
         EXPECT_EQ(double(ZRealNumber(ZString(row.text.c_str()))), row.number) << &row - longRows;
     EXPECT_TRUE(std::signbit(double(ZRealNumber(ZString(L"-0")))));
-}
-
-TEST(ZRealNumber, ReadsWhatTheStandardReaderReads) {
-    std::mt19937 random(20260104);
-    const wchar_t units[] = L"0019.eE+-  x";
-    const std::size_t count = std::size(units) - 1;
-    for (int turn = 0; turn < 30000; ++turn) {
-        std::wstring text(random() % 12, L' ');
-        for (wchar_t& unit : text)
-            unit = units[random() % count];
-        const double number = ZRealNumber(ZString(text.c_str()));
-        const double expected = inDefaultLocale([&] { return std::wcstod(text.c_str(), nullptr); });
-        ASSERT_EQ(number, expected) << shown(text.c_str());
-#if !defined(_WIN32) // that runtime gives -0 for a "-" without a number
-        ASSERT_EQ(std::signbit(number), std::signbit(expected)) << shown(text.c_str());
-#endif
-    }
 }
 
 TEST(ZHalfNumber, RoundsToTheNearestHalf) {

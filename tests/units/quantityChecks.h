@@ -2,19 +2,6 @@
 
 #include "tests/support.h"
 
-/// Checks what a quantity class reads from `text`, made from it and assigned.
-template <class Quantity>
-void checkRead(const wchar_t* text, double value, int valid = 1) {
-    SCOPED_TRACE(testing::Message() << shown(text) << " as unit " << Quantity().getUnitId());
-    const Quantity read{ZString(text)};
-    EXPECT_EQ(double(read), value);
-    EXPECT_EQ(read.isValid(), valid);
-    Quantity assigned(7.0);
-    assigned = ZString(text);
-    EXPECT_EQ(double(assigned), value);
-    EXPECT_EQ(assigned.isValid(), valid);
-}
-
 /// Assigns `source` to a valid Target of 7.0 and checks what comes out;
 /// construction must do the same to a fresh one.
 template <class Target, class Source>

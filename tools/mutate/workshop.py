@@ -25,7 +25,7 @@ HOSTS_TAKE_ALL = """
 """
 
 LIBRARY = "lib/libzarnex-foundation.so.1.0.0"
-MOST_UNITS = {"zarnex": 3, "tests": 2}  # compiled for a mutant in a header
+MOST_UNITS = {"zarnex": 3, "tests": 2, "fuzz": 2}  # compiled for a mutant in a header
 
 # Whose tests run code of a folder, beside its own and the trial of memory.
 REACH = {"platform": ["strings", "runtime", "geometry", "units", "ids"],
@@ -41,7 +41,8 @@ REACH = {"platform": ["strings", "runtime", "geometry", "units", "ids"],
 # What does not run the library's code, and the runs under locales except those that may matter.
 UNDER_LOCALE = re.compile("_[a-z]{2}_[A-Z]{2}$")
 LEFT_OUT = re.compile(
-    "abi|boundary|debugger|docs|fuzz|package|programs|threads|(?!strings|units).*_[a-z]{2}_[A-Z]{2}$|.*_fr_FR$")
+    "abi|boundary|debugger|docs|package|programs|threads|.*_program_fuzz|"
+    "(?!strings|units).*_[a-z]{2}_[A-Z]{2}$|.*_fr_FR$")
 
 
 def run(command, **options):
@@ -119,7 +120,8 @@ class Workshop:
         """The link command of the library and of each test program, by its output."""
         links = {}
         outputs = [LIBRARY] + [str(p.relative_to(self.plain))
-                               for p in (self.plain / "bin").glob("test-*")]
+                               for kind in ("test-*", "replay-*")
+                               for p in (self.plain / "bin").glob(kind)]
         for output in outputs:
             commands = self.must(["ninja", "-t", "commands", output], cwd=self.plain)
             line = next(c for c in commands.splitlines() if f" -o {output} " in c)
@@ -132,7 +134,7 @@ class Workshop:
         """Which units have code of a line: {file: {line: [source]}}."""
         lines = collections.defaultdict(lambda: collections.defaultdict(list))
         for unit in self.units.values():
-            if unit.source.startswith("zarnex/") or unit.source.startswith("tests/"):
+            if unit.source.split("/")[0] in MOST_UNITS:
                 notes = (self.plain / unit.object).with_suffix(".gcno")
                 kept = notes.with_suffix(".lines")
                 if not kept.exists() or kept.stat().st_mtime < notes.stat().st_mtime:
