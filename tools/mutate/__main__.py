@@ -14,6 +14,7 @@ import json
 import sys
 import threading
 import time
+from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 sys.dont_write_bytecode = True
@@ -115,12 +116,9 @@ def judge(results, benches, folders):
     for number in range(1, slices + 1):
         for _, share, mutants in folders:
             wanted = [share * number // slices - share * (number - 1) // slices]
-            threads = [threading.Thread(target=work, args=(bench, wanted, mutants))
-                       for bench in benches]
-            for thread in threads:
-                thread.start()
-            for thread in threads:
-                thread.join()
+            with ThreadPoolExecutor(len(benches)) as pool:
+                for result in [pool.submit(work, bench, wanted, mutants) for bench in benches]:
+                    result.result() # with the error, if there was one
     return counted
 
 

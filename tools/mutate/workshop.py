@@ -24,7 +24,6 @@ HOSTS_TAKE_ALL = """
 #endif
 """
 
-LIBRARY = "lib/libzarnex-foundation.so.1.0.0"
 MOST_UNITS = {"zarnex": 3, "tests": 2, "fuzz": 2}  # compiled for a mutant in a header
 
 # Whose tests run code of a folder, beside its own and the trial of memory.
@@ -33,10 +32,11 @@ REACH = {"platform": ["strings", "runtime", "geometry", "units", "ids"],
          "containers": ["strings", "interop", "geometry", "transforms", "units", "ids"],
          "strings": ["interop", "units", "ids"],
          "bigint": [],
-         "geometry": ["degenerate", "transforms", "stitchplan"],
-         "transforms": ["degenerate", "stitchplan"],
-         "units": ["stitchplan"],
-         "ids": []}
+         "geometry": ["degenerate", "transforms", "interop", "stitchplan"],
+         "transforms": ["degenerate", "interop", "stitchplan"],
+         "units": ["interop", "stitchplan"],
+         "ids": ["interop"],
+         "interop": []}
 
 # What does not run the library's code, and the runs under locales except those that may matter.
 UNDER_LOCALE = re.compile("_[a-z]{2}_[A-Z]{2}$")
@@ -67,6 +67,8 @@ class Workshop:
     def prepare(self):
         self.copy_tree()
         self.build()
+        file = next((self.plain / "lib").glob("libzarnex-foundation.so.*.*.*"))
+        self.library = str(file.relative_to(self.plain))
         entries = json.loads((self.plain / "compile_commands.json").read_text())
         units = [Unit(entry, self.tree) for entry in entries]
         self.units = {unit.source: unit for unit in units if (self.plain / unit.object).exists()}
@@ -119,9 +121,9 @@ class Workshop:
     def read_links(self):
         """The link command of the library and of each test program, by its output."""
         links = {}
-        outputs = [LIBRARY] + [str(p.relative_to(self.plain))
-                               for kind in ("test-*", "replay-*")
-                               for p in (self.plain / "bin").glob(kind)]
+        outputs = [self.library] + [str(p.relative_to(self.plain))
+                                    for kind in ("test-*", "replay-*")
+                                    for p in (self.plain / "bin").glob(kind)]
         for output in outputs:
             commands = self.must(["ninja", "-t", "commands", output], cwd=self.plain)
             line = next(c for c in commands.splitlines() if f" -o {output} " in c)
@@ -305,13 +307,13 @@ class Bench:
                 command.remove(unit.object)
             at = next(i for i, word in enumerate(command) if word.endswith(".o"))
             command[at:at] = [str(self.made(unit)) for unit in mine]
-            target = self.lib / ("libzarnex-foundation.so.1" if output == LIBRARY
+            target = self.lib / ("libzarnex-foundation.so.1" if output == self.shop.library
                                  else Path(output).name)
             command[command.index("-o") + 1] = str(target)
             if run(command, cwd=self.shop.plain).returncode != 0:
                 return None
             made[Path(output).name] = str(target)
-        if LIBRARY.split("/")[1] not in made:
+        if Path(self.shop.library).name not in made:
             (self.lib / "libzarnex-foundation.so.1").unlink(missing_ok=True)
         return made
 
