@@ -5,8 +5,21 @@ lint_packages=(clang-format-14 mandoc shellcheck python3)
 
 # All checks print what they find, one place a line, and fail if there is anything.
 
-# New files count before they are added.
-tracked() { git ls-files --cached --others --exclude-standard -- "$@"; }
+# tracked [PATTERN...]: the files of the tree that are like one of the patterns. New ones count
+# before they are added; an unpacked archive has no list of them and no others but in build/.
+tracked() {
+    local file pattern
+    if [[ -e .git ]]; then
+        git ls-files --cached --others --exclude-standard -- "$@"
+        return
+    fi
+    find . -path ./build -prune -o -type f -printf '%P\n' | sort | while read -r file; do
+        for pattern in "$@"; do
+            # shellcheck disable=SC2053 # a pattern
+            [[ $file != $pattern ]] || say "$file"
+        done
+    done
+}
 
 lint_format() { tracked '*.cpp' '*.h' | xargs -P "$jobs" -n 16 clang-format-14 --dry-run --Werror; }
 
@@ -31,13 +44,14 @@ for path in sys.argv[1:]:
 # make wants tabs.
 lint_text() {
     local files file status=0
-    mapfile -t files < <(git grep --untracked -Il '' -- ':!fuzz/seeds' ':!fuzz/finds' ':!examples/data' \
-        ':!*.tsv' ':!*.svg' ':!debian/rules')
+    mapfile -t files < <(tracked '*' | grep -vE '^(fuzz/(seeds|finds)|examples/data)/|\.(tsv|svg)$|^debian/rules$' |
+        xargs -d '\n' grep -Il '')
+    ((${#files[@]} > 0)) || { say "no files"; return 1; }
     if grep -nP '[ \t\r]+$|\t' -- "${files[@]}"; then
         status=1
     fi
-    # The sources of the benchmark of encodings are text to encode.
-    if LC_ALL=C git grep --untracked -nP '[^\x00-\x7F]' -- '*.h' '*.cpp' ':!bench/rows/encodings.cpp'; then
+    # The texts of the benchmark of encodings are there to be encoded.
+    if tracked '*.h' '*.cpp' | grep -v '^bench/rows/encodings' | LC_ALL=C xargs grep -nP '[^\x00-\x7F]'; then
         status=1
     fi
     for file in "${files[@]}"; do
