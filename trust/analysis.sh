@@ -66,8 +66,11 @@ row 'shellcheck' $(($(tracked '*.sh' | wc -l) + 2)) lint_shell
 
 # --- what is installed ------------------------------------------------------------------
 
-installed() { # BUILD PREFIX: its binary files
-    cmake --install "$1" --prefix "$2" >&2
+# install_under FOLDER BUILD: for the prefix /usr, whose name stands in the path of gdb's files.
+install_under() { DESTDIR=$1 cmake --install "$2" --prefix /usr >&2; }
+
+installed() { # BUILD FOLDER: its binary files
+    install_under "$2" "$1"
     find "$2" \( -name '*.so.*.*' -o -path '*/bin/*' \) ! -name '*.py' -type f | sort
 }
 
@@ -98,7 +101,7 @@ for preset in linux windows; do
         export TZ=Pacific/Kiritimati
         cmake --preset "$preset" -DZARNEX_BUILD_TESTS=OFF
         cmake --build --preset "$preset" -j "$jobs"
-        cmake --install "build/$preset" --prefix "$work/$preset.again"
+        install_under "$work/$preset.again" "build/$preset"
     ) >&2
     diff -r "$work/$preset" "$work/$preset.again" >&2 || fail "Builds differ: $preset"
 done
