@@ -13,7 +13,7 @@ import subprocess
 import threading
 from pathlib import Path
 
-COPIED = ["CMakeLists.txt", "cmake", "docs", "examples", "fuzz", "tests", "zarnex"]
+COPIED = ["CMakeLists.txt", "cmake", "docs", "examples", "fuzz", "tests", "trust", "zarnex"]
 
 # Without optimisation a host inlines nothing. With this it also keeps no copies of the inline
 # members, so that a mutant in a header needs the library compiled and not the tests.
