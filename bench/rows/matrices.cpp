@@ -1,4 +1,5 @@
 #include "../rows.h"
+#include "plane.h"
 
 #include <zarnex/transforms/ZMatrix.h>
 
