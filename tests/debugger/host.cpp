@@ -10,6 +10,8 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
+#pragma GCC diagnostic ignored "-Wunused-variable" // the debugger uses them
+
 // Where the debugger stops.
 __attribute__((noinline)) void everythingIsThere(void*) {
     asm volatile("" ::: "memory");
