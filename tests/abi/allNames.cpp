@@ -32,6 +32,8 @@ void make(Args... args) {
         touch(new Class(static_cast<Args>(args)...));
 }
 
+#pragma GCC diagnostic ignored "-Wdelete-non-virtual-dtor" // some are fixed to have none
+
 template <class Class>
 void destroy(Class* object) {
     object->~Class();

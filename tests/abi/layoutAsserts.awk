@@ -8,7 +8,7 @@
     type = substr($0, 1, at - 1)
     split(substr($0, at + 2), words, " ")
     if (words[2] == "bytes")
-        printf "SIZE(%s, (%s))\n", words[1], type
+        printf "SIZE(%s, (%s*))\n", words[1], type
     else
-        printf "PLACE(%s, %s, (%s))\n", words[2], $NF, type
+        printf "PLACE(%s, %s, (%s*))\n", words[2], $NF, type
 }

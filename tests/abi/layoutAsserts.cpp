@@ -4,11 +4,11 @@
 
 #include <cstddef>
 
-/// The type in parentheses, which may hold commas.
+/// The type that the one in parentheses points to; it may hold commas and be abstract.
 template <class>
 struct Parenthesized;
 template <class T>
-struct Parenthesized<void(T)> {
+struct Parenthesized<void(T*)> {
     using Type = T;
 };
 
