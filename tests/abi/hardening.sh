@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # What makes faults of the library and of programs harder to exploit, read from the files.
 #
-#   hardening.sh CONFIGURATION FILE...  fails, with file and fault, unless all is there
+#   hardening.sh fortified|plain FILE...  fails, with file and fault, unless all is there
 #
 # The tools are taken from READELF, and from OBJDUMP for a DLL or an .exe. FORTIFY is looked for
 # where the configuration is optimised and a file calls what it protects.
