@@ -76,7 +76,7 @@ installed() { # BUILD FOLDER: its binary files
 
 mapfile -t linux_files < <(installed build/linux "$work/linux")
 mapfile -t windows_files < <(installed build/windows "$work/windows")
-READELF=readelf OBJDUMP=x86_64-w64-mingw32-objdump tests/abi/hardening.sh RelWithDebInfo \
+READELF=readelf OBJDUMP=x86_64-w64-mingw32-objdump tests/abi/hardening.sh fortified \
     "${linux_files[@]}" "${windows_files[@]}" >&2 || fail "Hardening is missing"
 
 # The same, as Debian's own tool sees it; it asks only programs for PIE. That it misses FORTIFY in
