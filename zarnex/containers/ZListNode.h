@@ -20,8 +20,8 @@ struct ZListNode {
 
 namespace zarnex::detail {
 
-/// Without the size that a delete expression hands over: the runtime only drops it, by one
-/// more call for each node.
+/// Frees `node`, without the size that a delete expression hands over: the runtime only drops
+/// it, by one more call for each node.
 template <class T>
 void freeNode(ZListNode<T>* node) {
     if constexpr (alignof(ZListNode<T>) > __STDCPP_DEFAULT_NEW_ALIGNMENT__) {
