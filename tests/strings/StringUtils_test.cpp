@@ -162,6 +162,7 @@ TEST(StringUtils, PathsAreBuiltWithTheMarksThatPartsLack) {
     wchar_t path[12] = L"old";
     StringUtils::makePath(path, 12, L"C", L"dir", L"f", L"txt");
     EXPECT_STREQ(path, L"C:dir\\f.txt");
+    StringUtils::makePath(static_cast<wchar_t*>(nullptr), 12, L"C", L"dir", L"f", L"txt");
 }
 
 TEST(StringUtils, FixnameReplacesTheExtension) {

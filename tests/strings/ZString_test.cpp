@@ -66,17 +66,22 @@ TEST(ZString, CopyingTakesTheArrayAssigningTheTextWithinTheSlots) {
 }
 
 TEST(ZString, WhatWasMovedFromStaysUsable) {
-    ZString use[6];
+    ZString use[8];
     use[0] = L"abc";
     EXPECT_EQ(wide(ZString(std::move(use[0]))), L"abc");
-    for (ZString& target : use)
+    for (ZString& target : use) {
+        target = L"what new storage may find in its place";
         const ZString emptied(std::move(target));
+    }
     EXPECT_EQ(use[0].length(), 0);
     use[1] += L"x";
     use[2] += L'x';
     use[3].resize();
     use[4][0] = L'x';
     std::wcscpy(use[5], L"x");
+    use[6].truncate(40);
+    use[7].resize(40);
+    EXPECT_TRUE(use[6].isEmpty() && use[7].isEmpty());
     EXPECT_EQ(wide(use[1]), L"x");
     EXPECT_EQ(wide(use[2]), L"x");
     EXPECT_EQ(wide(use[3]), L"");

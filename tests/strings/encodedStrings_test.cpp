@@ -93,6 +93,9 @@ TYPED_TEST(Encoded, CopiesAreDeepAndWhatWasMovedFromStaysUsable) {
     EXPECT_EQ(copy.length(), 0) << "terminated before it grew";
     copy = std::move(taken);
     EXPECT_EQ(this->units(copy), this->text("abc"));
+    const TypeParam emptied(std::move(copy));
+    copy.resize(40);
+    EXPECT_EQ(copy.length(), 0);
 }
 
 TYPED_TEST(Encoded, IndicesDoNotWrapAndWritingGrows) {

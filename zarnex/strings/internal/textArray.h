@@ -61,9 +61,18 @@ ZXArray<Char> newLike(const ZXArray<Char>& array, std::size_t slots) {
     return made;
 }
 
+/// Room for `slots`, one at least; the text stays what it is, also without storage before.
+template <class Char>
+void reserveText(ZXArray<Char>& array, std::size_t slots) {
+    const bool isNew = array.allocLength() == 0;
+    array.reserve(static_cast<long long>(slots));
+    if (isNew)
+        *static_cast<Char*>(array) = Char{};
+}
+
 template <class Char>
 void setUsed(ZXArray<Char>& array, std::size_t slots) {
-    array.reserve(static_cast<long long>(slots));
+    reserveText(array, slots);
     array.setSize(static_cast<int>(slots));
 }
 
@@ -158,7 +167,7 @@ void appendText(ZXArray<Char>& array, const Char* text, std::size_t count) {
 template <class Char>
 void resizeText(ZXArray<Char>& array, int n) {
     n = (std::max)(n, 0);
-    array.reserve(n + 1LL);
+    reserveText(array, notNegative(n) + 1);
     array.resize(n + 1);
     array[n] = Char{};
 }
