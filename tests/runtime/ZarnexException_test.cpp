@@ -27,6 +27,8 @@ TEST(ZarnexException, EachConstructorFillsWhatItIsNotGiven) {
         // Codes have 32 bits and a sign on every platform.
         {ZarnexException(static_cast<long>(0x80004005), nullptr), "No Exception Message Set",
          -2147467259L, nullptr},
+        {ZarnexException(0xffffffffu, nullptr), "No Exception Message Set", -1, nullptr},
+        {ZarnexException(1LL << 32, nullptr), "No Exception Message Set", 0, nullptr},
         {own, "bad", 5, &source},
     };
     for (const auto& row : rows) {

@@ -5,6 +5,8 @@
 
 #include <atomic>
 #include <chrono>
+#include <cstring>
+#include <new>
 #include <thread>
 
 namespace {
@@ -58,6 +60,17 @@ TEST(MiniGuard, CopyingTakesNoLockButReleasesOne) {
     } // two releases for one lock(): the outer lock() is undone here
     Contender contender(lock);
     EXPECT_TRUE(contender.passes(amply));
+}
+
+// The copy is never destroyed: it would be the end of the lock that it was made from.
+TEST(MiniLock, CopiesAreTheBytesOfTheLock) {
+    const MiniLock lock, other;
+    alignas(MiniLock) unsigned char place[sizeof(MiniLock)];
+    MiniLock& copy = *new (place) MiniLock(lock);
+    EXPECT_EQ(std::memcmp(place, static_cast<const void*>(&lock), sizeof place), 0);
+    std::memset(place + sizeof(void*), 0x5a, sizeof place - sizeof(void*));
+    copy = other;
+    EXPECT_EQ(std::memcmp(place, static_cast<const void*>(&other), sizeof place), 0);
 }
 
 TEST(ZRefCount, CountsUpDownAndWraps) {

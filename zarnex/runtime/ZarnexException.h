@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <exception>
 #include <string>
+#include <type_traits>
 
 /// The exception that the suite's programs throw and catch: a message, an error
 /// code and the object that raised it. The library itself never throws it.
@@ -24,6 +25,9 @@ public:
     /// @{
     ZarnexException(long code, void* source);
     ZarnexException(int code, void* source); // or 0 would be a message too
+    template <class Integer, std::enable_if_t<std::is_integral_v<Integer>, int> = 0>
+    ZarnexException(Integer code, void* source) // or others would be an int as much as a long
+        : ZarnexException(static_cast<long>(code), source) {}
     /// @}
 
     /// An empty or null `message` becomes "No Exception Message Set". `code` is kept in 32 bits.
