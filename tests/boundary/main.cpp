@@ -3,7 +3,7 @@
 ///
 ///     test-boundary-... MODULE...
 ///
-/// The modules are unloaded and loaded again in between.
+/// The modules are closed and loaded again in between.
 
 #include "tests/boundary/module.h"
 

@@ -8,8 +8,8 @@
 /// would have typed after reading the displayed source value: with one or two
 /// decimals for lengths, none for numbers, 12 or 22 for mm/s.
 ///
-/// Kept as is: a value whose text has 100 characters or more, such as 1e98 mm, ends
-/// the process when that text is read as a length, a speed or a density.
+/// Kept as is: a value whose number has 100 characters or more, such as 1e98 mm, ends
+/// the process when its text is read as a length, a speed or a density.
 ///
 ///     convertZUnits(2, 1.234, 4, 0)   // "1.23 mm" read as inches: 1.23 / 25.4
 
