@@ -139,6 +139,8 @@ TEST(Winding, OfSmallOutlines) {
         {"spike", {{0, 0}, {2, 0}, {1, 1}, {1, 2}, {1, 0.5}}, 1, 1},
         // Skipping (1.00002, 2) before the top leaves a clockwise turn at it.
         {"hook at the top", {{0, 0}, {1 + near, 2 - near}, {1, 2}, {2, 0}}, 0, 1},
+        // The first of two tops turns left, the other one right.
+        {"two tops", {{0, 2}, {-1, 0}, {1, 0}, {9, 0.5}, {10, 2}, {11, 0}}, 1, 1},
         // Where no point lies apart, the one after the top stands for the one before: a
         // counter-clockwise outline comes out as clockwise.
         {"tiny", {{0, near}, {-near, 0}, {near / 2, near / 2}}, 0, 1},

@@ -104,6 +104,10 @@ TEST(Roots, ComeInTheirOrderWithinAbsoluteBounds) {
         {fixed, {1, 2, 1 + 9e-6 / 4}, {-1}},
         {fixed, {1, 2, 1 + 1.1e-5 / 4}, {}},
         {fixed, {1, 2, 1 - d * d / 4}, {-1 - d / 2, -1 + d / 2}},
+        {fixed, {0.25, 1e-10, 1.0000000000000011e-05}, {}}, // exactly -1e-5, and 1e-5
+        {fixed,
+         {0.25, 0.0031, -3.9000000000000135e-07},
+         {-0.012524555320336767, 0.0001245553203367591}},
         {fixed, {1, 1e9, 1}, {HUGE_VAL, -1e-9}}, // cancelled
         {chosen, {1, 1e9, 1, 1e-9, 1e-9}, {-1e9, -1e-9}},
         {chosen, {0.5, 0.5, 2, 0.5, 0}, {}}, // 0.5 is not below 0.5

@@ -1,11 +1,14 @@
-// What arrays and lists ask of the heap: hosts that replace the operators new and delete see
-// each request and each release of theirs.
+// What arrays, strings and lists ask of the heap: hosts that replace the operators new and delete
+// see each request and each release of theirs.
 
 #include "tests/memory/failingHeap.h"
 
 #include <zarnex/containers/ZList.h>
 #include <zarnex/containers/ZSortList.h>
 #include <zarnex/containers/ZXArray.h>
+#include <zarnex/strings/ZMultiByteString.h>
+#include <zarnex/strings/ZString.h>
+#include <zarnex/strings/ZWideString.h>
 
 #include <gtest/gtest.h>
 
@@ -102,6 +105,7 @@ using Ints = ZXArray<int>;
 
 TEST(Requests, ArraysAskOnceForEachGrowthAndListsForEachElement) {
     constexpr Request node{plain, sizeof(ZListNode<int>)};
+    constexpr std::size_t unit = sizeof(wchar_t);
     const auto lists = [](std::size_t slots) { // behind their number, as they are destroyed
         return Request{noThrowArray, sizeof(std::size_t) + slots * sizeof(ZList<double>)};
     };
@@ -178,6 +182,27 @@ TEST(Requests, ArraysAskOnceForEachGrowthAndListsForEachElement) {
              copy = list;
          },
          {node, node, node, node, node, node}},
+        {"texts by steps of 32; where they are sized, exactly, and by the step of the copied one",
+         [] {
+             ZString text(L"abc");
+             const ZString sized(40, 5);
+             ZString copy(sized);
+             copy.resize(51);
+             text = sized;
+             text.resize(64);
+             ZMultiByteString("abc").resize(32);
+             ZWideString(L"abc").resize(32);
+         },
+         {{noThrow, 32 * unit},
+          {noThrow, 41 * unit},
+          {noThrow, 41 * unit},
+          {noThrow, 55 * unit},
+          {noThrow, 64 * unit},
+          {noThrow, 96 * unit},
+          {noThrow, 32},
+          {noThrow, 64},
+          {noThrow, 32 * unit},
+          {noThrow, 64 * unit}}},
         {"lists joined, handed over, emptied",
          [] {
              ZList<int> list{1, 2};

@@ -63,6 +63,18 @@ TEST(Z2DMatrix, CallsThroughTheBaseReachItsEntries) {
     } scaled;
     EXPECT_EQ(scaled.invert(), 0);
     EXPECT_EQ(elementsOf(scaled), Numbers({0.5, 0, 0, 0.5}));
+
+    struct Noting : General {
+        explicit Noting(const General& m) : General(m) {}
+        General& operator=(const General& other) override {
+            ++assigned;
+            return General::operator=(other);
+        }
+        int assigned = 0;
+    } noting(matrix({1, 2, 3, 4}));
+    EXPECT_EQ(noting.multiply(noting, noting) + matrix({2, 0, 0, 1}).solve(noting), 0);
+    EXPECT_EQ(elementsOf(noting), Numbers({3.5, 5, 15, 22}));
+    EXPECT_EQ(noting.assigned, 2);
 }
 
 TEST(Z2DMatrix, TakesItselfForAnArgumentAndSolves) {

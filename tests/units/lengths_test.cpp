@@ -7,6 +7,7 @@
 #include <zarnex/units/ZMillimeter.h>
 #include <zarnex/units/ZMillimeterPerSec.h>
 #include <zarnex/units/ZSpi.h>
+#include <zarnex/units/ZSquareCentimeter.h>
 
 #include <cmath>
 #include <limits>
@@ -107,20 +108,51 @@ TEST(Lengths, RenderInOtherUnits) {
     }
 }
 
-// What 3 of each become; the first is invalid, and the flag comes along.
+// What 3 of each become, valid or not.
 template <class Target>
 void checkAssignedFromEach(double fromMillimeter, double fromCentimeter, double fromInch,
                            double fromPoint, double fromSpi) {
+    const auto check = [](const auto& valid, const wchar_t* text, double value) {
+        const std::decay_t<decltype(valid)> invalid{ZString(text)};
+        EXPECT_FALSE(invalid.isValid());
+        checkAssigned<Target>(valid, value);
+        checkAssigned<Target>(invalid, value);
+    };
     if constexpr (!std::is_same_v<Target, ZMillimeterPerSec>) // takes it as text and as number
-        checkAssigned<Target>(ZMillimeter(ZString(L"3 mm x")), fromMillimeter);
-    checkAssigned<Target>(ZCentimeter(3.0), fromCentimeter);
-    checkAssigned<Target>(ZInch(3.0), fromInch);
-    checkAssigned<Target>(ZEmbPoint(3.0), fromPoint);
-    checkAssigned<Target>(ZSpi(3.0), fromSpi);
+        check(ZMillimeter(3.0), L"3 mm x", fromMillimeter);
+    check(ZCentimeter(3.0), L"3 cm x", fromCentimeter);
+    check(ZInch(3.0), L"3 in x", fromInch);
+    check(ZEmbPoint(3.0), L"3 pt x", fromPoint);
+    check(ZSpi(3.0), L"3 spi x", fromSpi);
+}
+
+// What derived classes reach: a quantity takes its own unit and refuses another.
+template <class Quantity>
+void checkRefused(int unit) {
+    struct Opened : Quantity {
+        using Quantity::setValue;
+    } quantity;
+    SCOPED_TRACE(testing::Message() << "unit " << unit << " by " << quantity.getUnitId());
+    for (int i = 0; i < 2; ++i) { // from either state
+        EXPECT_EQ(quantity.setValue(3.0, quantity.getUnitId()), 1);
+        EXPECT_TRUE(double(quantity) == 3.0 && quantity.isValid() == 1);
+        EXPECT_EQ(quantity.setValue(5.0, unit), 0);
+        EXPECT_TRUE(double(quantity) == 0.0 && quantity.isValid() == 0);
+    }
+}
+
+TEST(Quantities, BecomeZeroByAUnitThatTheyRefuse) {
+    checkRefused<ZMillimeter>(7);
+    checkRefused<ZCentimeter>(1);
+    checkRefused<ZInch>(15);
+    checkRefused<ZEmbPoint>(-2);
+    checkRefused<ZSpi>(7);
+    checkRefused<ZMillimeterPerSec>(4);
+    checkRefused<ZCentimeterPerSec>(6);
+    checkRefused<ZSquareCentimeter>(3);
 }
 
 TEST(Quantities, ConvertAmongEachOtherByAssignment) {
-    ASSERT_FALSE(ZMillimeter(ZString(L"3 mm x")).isValid());
     checkAssignedFromEach<ZMillimeter>(3, 30, 3 * 25.4, 3 / 10.0, 25.4 / 3);
     checkAssignedFromEach<ZCentimeter>(3 / 10.0, 3, 3 * 2.54, 3 / 100.0, 2.54 / 3);
     checkAssignedFromEach<ZInch>(3 / 25.4, 3 / 2.54, 3, 3 / 254.0, 1.0 / 3);

@@ -134,6 +134,11 @@ TEST(Numbers, StartFromTheirDefaultsAndFromText) {
     ZPercent percent(7.0);
     percent.setStringWithUnits(L" 12.5 %", 2);
     EXPECT_EQ(double(percent), 12.5);
+    EXPECT_EQ(ZNumber().getUnitId(), 8);
+    EXPECT_EQ(ZPercent().getUnitId(), 9);
+    EXPECT_EQ(ZHalfNumber().getUnitId(), 11);
+    EXPECT_EQ(ZRealNumber().getUnitId(), 13);
+    EXPECT_EQ(ZDegree().getUnitId(), 15);
 }
 
 TEST(Numbers, Compare) {

@@ -2,16 +2,18 @@
 
 #include "tests/support.h"
 
-/// Assigns `source` to a valid Target of 7.0 and checks what comes out;
+/// Assigns `source` to a valid Target and to an invalid one and checks what comes out;
 /// construction must do the same to a fresh one.
 template <class Target, class Source>
 void checkAssigned(const Source& source, double value) {
     SCOPED_TRACE(testing::Message()
                  << "unit " << source.getUnitId() << " to " << Target().getUnitId());
-    Target target(7.0);
-    target = source;
-    EXPECT_EQ(double(target), value);
-    EXPECT_EQ(target.isValid(), source.isValid());
+    Target valid(7.0), invalid(ZString(L"wide"));
+    for (Target* const target : {&valid, &invalid}) {
+        *target = source;
+        EXPECT_EQ(double(*target), value);
+        EXPECT_EQ(target->isValid(), source.isValid());
+    }
     EXPECT_EQ(double(Target(source)), value);
 }
 

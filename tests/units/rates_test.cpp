@@ -25,6 +25,8 @@ TEST(Rates, Render) {
     EXPECT_EQ(wide(constBase.getDensityStringWithUnits(2)), L"12.00 mm");
     ZCentimeter& base = slow;
     EXPECT_EQ(wide(base), L"1.20 cm/s") << "the conversion is virtual";
+    base = ZCentimeter(1.5);
+    EXPECT_EQ(wide(base), L"1.50 cm/s");
     EXPECT_EQ(base.getUnitId(), 12);
 }
 
