@@ -1,22 +1,19 @@
 #!/usr/bin/env bash
 # What the shared library exports.
 #
-#   exports.sh list LIBRARY              prints the exported names, one a line
-#   exports.sh names LIBRARY             the same as the compiler writes them, none left out
-#   exports.sh compare LIBRARY EXPECTED  fails unless they are those in EXPECTED
-#   exports.sh internal LIBRARY          fails if names of the inside are exported
-#   exports.sh imports LIBRARY           fails if a DLL needs more than the system's DLLs
+#   exports.sh names LIBRARY            prints the exported names, one a line
+#   exports.sh compare LIBRARY SYMBOLS  fails unless they are those of the symbols file
+#   exports.sh internal LIBRARY         fails if names of the inside are exported
+#   exports.sh imports LIBRARY          fails if a DLL needs more than the system's DLLs
 #
 # The tools are taken from NM (for a .so), OBJDUMP (for a DLL) and CXXFILT.
 #
-# The list is the same for both formats and for all compilers:
-# - It leaves out virtual tables, type information, thunks and the variables of functions,
-#   which each format places by its own rules. The several constructors and destructors that
+# Names are the same for both formats and for all compilers:
+# - Virtual tables, type information, thunks and the variables of functions are left out: each
+#   format places them by its own rules. The several constructors and destructors that
 #   compilers make of one declaration demangle to one name.
-# - `long long` is written `long`: std::size_t is `unsigned long` on Linux and `unsigned
-#   long long` on Windows. Overloads for both remain two lines.
-# - A member that several instantiations of a container share is one line with T for their
-#   element type and the number of them; a line a container names these types.
+# - Compared, `long long` is `long`: std::size_t is `unsigned long` on Linux and `unsigned
+#   long long` on Windows. Overloads for both remain two names.
 set -euo pipefail
 export LC_ALL=C
 
@@ -25,10 +22,14 @@ fail() {
     exit 1
 }
 
-# mangled LIBRARY: the exported symbols as the linker knows them.
+# mangled FILE: the symbols that a library exports, or that a symbols file of Debian lists, as the
+# linker knows them.
 mangled() {
     local names
     case $1 in
+    *.symbols)
+        names=$(sed -n 's/^ \([^@]*\)@.*/\1/p' "$1")
+        ;;
     *.dll)
         names=$("${OBJDUMP:?objdump is needed}" -p "$1" |
             awk '/^\[Ordinal\/Name Pointer\]/ { inside = 1; next }
@@ -52,61 +53,15 @@ names() {
     sort -u <<<"$names"
 }
 
-list() {
-    names "$1" | sed 's/long long/long/g' | sort | fold_instantiations | sort
-}
-
-fold_instantiations() {
-    awk '
-        function swap(text, from, to,    out, at) {
-            while ((at = index(text, from)) > 0) {
-                out = out substr(text, 1, at - 1) to
-                text = substr(text, at + length(from))
-            }
-            return out text
-        }
-        # The place of the ">" that closes the "<" at `open`.
-        function closing(text, open,    i, depth, c) {
-            for (i = open; i <= length(text); ++i) {
-                c = substr(text, i, 1)
-                depth += (c == "<") - (c == ">")
-                if (depth == 0)
-                    return i
-            }
-        }
-        !/^(ZList|ZXArray)</ { print; next }
-        {
-            open = index($0, "<")
-            end = closing($0, open)
-            container = substr($0, 1, open - 1) "<T>"
-            type = substr($0, open + 1, end - open - 1)
-            sub(/ $/, "", type)
-            member = swap(substr($0, end + 1), "<" type ">", "<T>")
-            member = swap(member, "<" type " >", "<T>")
-            member = swap(member, "<" type ",", "<T,")
-            member = swap(member, type " const&", "T const&")
-            member = swap(member, type " const*", "T const*")
-            member = swap(member, type "&", "T&")
-            member = swap(member, type "*", "T*")
-            member = swap(member, "(*)(" type ",", "(*)(T,")
-            ++count[container member]
-            if (!((container, type) in known)) {
-                known[container, type] = 1
-                types[container] = types[container] "; " type
-            }
-        }
-        END {
-            for (line in count)
-                print line " x " count[line]
-            for (container in types)
-                print container " with T =" substr(types[container], 2)
-        }'
+comparable() {
+    names "$1" | sed 's/long long/long/g' | sort
 }
 
 compare() {
-    local names changes
-    names=$(list "$1")
-    changes=$(diff --label "$2" --label "$1" --unified=0 "$2" - <<<"$names") ||
+    local exported listed changes
+    exported=$(comparable "$1")
+    listed=$(comparable "$2")
+    changes=$(diff --label "$2" --label "$1" --unified=0 <(cat <<<"$listed") - <<<"$exported") ||
         fail "$(head -n 100 <<<"$changes")" \
             "The exported names have changed. If that is meant: ./dev exports"
 }
@@ -141,6 +96,6 @@ imports() {
 
 [[ -f ${2-} ]] || fail "No such library: ${2-}"
 case $1 in
-list | names | compare | internal | imports) "$@" ;;
+names | compare | internal | imports) "$@" ;;
 *) fail "Unknown request: $1" ;;
 esac

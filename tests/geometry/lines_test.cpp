@@ -171,6 +171,10 @@ TEST(QuickCheck, IsAnEllipseAndTwoCircles) {
         EXPECT_EQ(quickCheckPointOnLine(p, a, b, 0.5), found) << x << " " << y;
         EXPECT_EQ(quickCheckPointOnLine(p, a, b, 0.5, relTol), foundAtSecond) << x << " " << relTol;
     }
+    // In the box about one end of a segment that is no line, and not in the other.
+    const DPoint a(0, 0), b(3e-5, 0), p(-0.9e-6, 0.9e-6);
+    EXPECT_TRUE(quickCheckPointOnLine(p, a, b, 1e-6, 0.1));
+    EXPECT_TRUE(quickCheckPointOnLine(p, b, a, 1e-6, 0.1));
 }
 
 TEST(Projection, AgreesWithTheAreaOverTheLength) {

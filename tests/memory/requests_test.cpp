@@ -190,6 +190,7 @@ TEST(Requests, ArraysAskOnceForEachGrowthAndListsForEachElement) {
              copy.resize(51);
              text = sized;
              text.resize(64);
+             ZString(L"0123456789012345678901234567890").findAndReplace(L"9", L"-");
              ZMultiByteString("abc").resize(32);
              ZWideString(L"abc").resize(32);
          },
@@ -199,6 +200,8 @@ TEST(Requests, ArraysAskOnceForEachGrowthAndListsForEachElement) {
           {noThrow, 55 * unit},
           {noThrow, 64 * unit},
           {noThrow, 96 * unit},
+          {noThrow, 32 * unit},
+          {noThrow, 32 * unit},
           {noThrow, 32},
           {noThrow, 64},
           {noThrow, 32 * unit},

@@ -92,6 +92,7 @@ TEST(ZRealNumber, ReadsTheLeadingNumber) {
                     {L"0." + zeros + L"1e800", infinity},
                     {L"0." + zeros + L"1", 0.0},
                     {L"0." + zeros + L"1e070", 0.0},
+                    {L"0." + std::wstring(4000, L'0') + L"1e3600", 0.0},
                     {L"1" + zeros + L"e-800", 0.0}};
     for (const auto& row : longRows)
         EXPECT_EQ(double(ZRealNumber(ZString(row.text.c_str()))), row.number) << &row - longRows;
