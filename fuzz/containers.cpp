@@ -180,15 +180,24 @@ public:
     }
     ~Node() override {
         --alive;
+        if (dying.empty())
+            return;
+        FUZZ_REQUIRE(dying.front() == this);
+        dying.erase(dying.begin());
     }
 
     inline static int alive = 0;
+    inline static std::vector<Node*> dying; // what a list is about to delete, in this order
 };
 
 struct Ring {
     Stack list;
     std::vector<Node*> nodes;
     Node* current = nullptr;
+
+    ~Ring() {
+        Node::dying = std::move(nodes);
+    }
 
     Node* at(int i) const {
         i = std::max(i, 0);

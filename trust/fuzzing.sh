@@ -1,4 +1,4 @@
-# Any input, for ZARNEX_FUZZ_SECONDS seconds a target.
+# Any input, for ZARNEX_FUZZ_SECONDS seconds a target, as many targets at a time as there are jobs.
 
 seconds=${ZARNEX_FUZZ_SECONDS:-20}
 work=build/trust/fuzzing
@@ -11,6 +11,15 @@ mkdir -p "$work"
 
 # figure LOG NAME: one of the figures that libFuzzer prints at the end.
 figure() { sed -n "s/^stat::$2: *//p" "$1"; }
+
+for target in "${targets[@]}"; do
+    while (($(jobs -rp | wc -l) >= jobs)); do
+        wait -n || true
+    done
+    run_fuzzer "$target" "$seconds" "$work/$target" >"$work/$target.log" 2>&1 ||
+        touch "$work/$target.failed" &
+done
+wait
 
 cat <<'END'
 Every target ran under libFuzzer, AddressSanitizer and UndefinedBehaviorSanitizer, from the
@@ -25,7 +34,7 @@ END
 total=0
 for target in "${targets[@]}"; do
     log=$work/$target.log
-    if ! run_fuzzer "$target" "$seconds" "$work/$target" >"$log" 2>&1; then
+    if [[ -e $work/$target.failed ]]; then
         tail -n 40 "$log" >&2
         fail "The fuzzer found a fault: $target; the input is in $work"
     fi
