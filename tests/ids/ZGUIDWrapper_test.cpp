@@ -14,6 +14,11 @@
 #include <vector>
 
 #if !defined(_WIN32)
+#include <cerrno>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
+#include <sys/prctl.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #endif
@@ -171,15 +176,19 @@ void expectNoRepeats(std::vector<Key> keys) {
     EXPECT_TRUE(std::adjacent_find(keys.begin(), keys.end()) == keys.end());
 }
 
+// The numbers stand with their least significant byte first.
+bool haveVersionAndVariant(const std::vector<Key>& keys) {
+    return std::all_of(keys.begin(), keys.end(),
+                       [](const Key& key) { return key[7] >> 4 == 4 && key[8] >> 6 == 2; });
+}
+
 TEST(NewIdentifiers, NeverRepeatAndCarryVersionAndVariant) {
     std::vector<Key> keys, others;
     std::thread other(addNew, std::ref(others), 500000);
     addNew(keys, 500000);
     other.join();
     keys.insert(keys.end(), others.begin(), others.end());
-    // The numbers stand with their least significant byte first.
-    const auto isRight = [](const Key& key) { return key[7] >> 4 == 4 && key[8] >> 6 == 2; };
-    EXPECT_TRUE(std::all_of(keys.begin(), keys.end(), isRight));
+    EXPECT_TRUE(haveVersionAndVariant(keys));
     expectNoRepeats(keys);
 }
 
@@ -205,6 +214,37 @@ TEST(NewIdentifiers, DifferBetweenAProcessAndItsChildren) {
     EXPECT_EQ(read(ends[0], &keys[150], 100 * sizeof(Key)), 100 * sizeof(Key));
     close(ends[0]);
     expectNoRepeats(keys);
+}
+
+// From here on the process has no getrandom(), as in some sandboxes and on old kernels.
+bool refuseGetrandom() {
+    sock_filter rules[] = {
+        BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_getrandom, 0, 1),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | ENOSYS),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW),
+    };
+    const sock_fprog program = {std::size(rules), rules};
+    return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
+           prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program) == 0;
+}
+
+TEST(NewIdentifiers, ComeFromTheDeviceWhereTheCallIsRefused) {
+    constexpr int notToBeHad = 77;
+    const pid_t child = fork();
+    if (child == 0) {
+        if (!refuseGetrandom())
+            _exit(notToBeHad);
+        std::vector<Key> keys;
+        addNew(keys, 100);
+        expectNoRepeats(keys);
+        _exit(haveVersionAndVariant(keys) && !testing::Test::HasFailure() ? 0 : 1);
+    }
+    int status = -1;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    if (WIFEXITED(status) && WEXITSTATUS(status) == notToBeHad)
+        GTEST_SKIP() << "no filter of system calls here";
+    EXPECT_EQ(status, 0);
 }
 #endif
 

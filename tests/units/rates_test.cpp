@@ -44,7 +44,9 @@ TEST(ZMillimeterPerSec, RendersTwelveOrTwentyTwoDecimalsUnlessConst) {
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.value);
-        ZMillimeterPerSec speed(row.value);
+        ZMillimeterPerSec speed(ZString(L"wide"));
+        speed = row.value;
+        EXPECT_EQ(speed.isValid(), 1);
         const ZMillimeterPerSec constSpeed(row.value);
         EXPECT_EQ(wide(speed), row.text);
         EXPECT_EQ(wide(speed.getStringWithUnits(3)), row.text);
