@@ -153,8 +153,8 @@ void copyInto(const std::basic_string<In>& text, const std::basic_string<Out>& w
     FUZZ_REQUIRE(written == (needed <= out.size() ? needed : zarnex::errorSize));
     FUZZ_REQUIRE(needed > out.size() || copied == whole);
     FUZZ_REQUIRE(copied.size() + 4 >= std::min(needed, out.size())); // but for a character
-    if constexpr (std::is_same_v<Out, char>) // of which no part is left
-        FUZZ_REQUIRE(toUtf8(fromUtf8(copied)) == copied);
+    if constexpr (std::is_same_v<Out, char>)
+        FUZZ_REQUIRE(toUtf8(fromUtf8(copied)) == copied); // the last one is whole
     for (std::size_t i = copied.size() + 1; i + 1 < out.size(); ++i)
         FUZZ_REQUIRE(out[i] == (needed <= out.size() ? Out{'x'} : Out{}));
 }
