@@ -213,7 +213,8 @@ void tryCodePage(fuzz::Input& input, const std::string& text, const std::wstring
     const ZWideString converted = mbsToWide(bytes, codePage);
     if (const auto accepted = byIconv<wchar_t>("WCHAR_T", name.c_str(), text)) {
         FUZZ_REQUIRE(converted == accepted->c_str());
-        if (codePage < 1255 && codePage != 932)
+        // In the others, several sequences of bytes mean one text.
+        if (codePage < 1255 && codePage != 932 && codePage != 950)
             FUZZ_REQUIRE(wideToMbs(converted, codePage) == bytes);
     }
     ZMultiByteString back;
