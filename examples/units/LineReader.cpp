@@ -44,8 +44,11 @@ bool LineReader::next(std::string_view& line) {
         }
     } while (feed == none && fill());
 
-    if (++lineNumber_ == 1)
+    if (++lineNumber_ == 1) {
         line = withoutByteOrderMark(line);
+        if (line.empty() && feed == none)
+            return false; // the file is a mark and nothing else
+    }
     line = withoutCarriageReturn(line);
     return true;
 }

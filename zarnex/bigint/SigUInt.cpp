@@ -328,9 +328,13 @@ ZString SigUInt::getHex() const {
         return L"0";
     const int count = static_cast<int>((bitLength() + 3LL) / 4);
     ZString text(count, 0);
-    wchar_t* const digits = &text[0];
-    for (int i = 0; i < count; ++i)
-        digits[count - 1 - i] = L"0123456789abcdef"[limbs_[i / 16] >> (i % 16 * 4) & 0xf];
-    digits[count] = L'\0';
+    wchar_t* const first = &text[0];
+    wchar_t* digit = first + count;
+    *digit = L'\0';
+    for (int i = 0; digit != first; ++i) {
+        Limb rest = limbs_[i];
+        for (int left = limbBits / 4; left > 0 && digit != first; --left, rest >>= 4)
+            *--digit = L"0123456789abcdef"[rest & 0xf];
+    }
     return text;
 }
