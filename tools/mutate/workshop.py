@@ -26,7 +26,7 @@ HOSTS_TAKE_ALL = """
 
 MOST_UNITS = {"zarnex": 3, "tests": 2, "fuzz": 2}  # compiled for a mutant in a header
 
-# Whose tests run code of a folder, beside its own and the trial of memory.
+# Whose tests run code of a folder, beside its own and those of memory.
 REACH = {"platform": ["strings", "runtime", "geometry", "units", "ids"],
          "runtime": ["containers", "geometry", "units"],
          "containers": ["strings", "interop", "geometry", "transforms", "units", "ids"],
@@ -211,7 +211,7 @@ class Workshop:
         """The tests that can reach the file: those of its folder, then of others, the quick
         ones first. Under locales only those of the folder."""
         folder = file.split("/")[1]
-        reach = [folder, *REACH[folder], "memory"]
+        reach = [folder, *REACH[folder], "memory-requests", "memory"]
 
         def name(test):
             return test["name"].split("_")[0]
