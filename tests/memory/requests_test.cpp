@@ -108,7 +108,7 @@ using Ints = ZXArray<int>;
 const ZString wideText(L"ab");
 const ZMultiByteString narrowText("ab");
 
-// The one that was moved from has no storage, and its step.
+// Once its storage was moved away, a text still has its step.
 template <class Text>
 void growAndGrowAgain(Text text) {
     text.resize(64);
@@ -123,7 +123,7 @@ std::vector<Request> repeated(int times, const std::vector<Request>& requests) {
     return all;
 }
 
-TEST(Requests, ArraysAskOnceForEachGrowthAndListsForEachElement) {
+TEST(Requests, ArraysAndStringsAskOnceForEachGrowthAndListsForEachElement) {
     constexpr Request node{plain, sizeof(ZListNode<int>)};
     constexpr std::size_t unit = sizeof(wchar_t);
     const auto lists = [](std::size_t slots) { // behind their number, as they are destroyed
